@@ -1,0 +1,220 @@
+#include "core/show.h"
+
+#include <algorithm>
+
+namespace {
+const std::string titleStart = "Lucky Cup - ";
+}
+
+void SetRollPicture(Game& game, RollPicture kind) {
+    game.table.roll.picture = kind;
+    game.view.SetRollPicture(kind);
+}
+
+void SetRollEnabled(Game& game, bool on) {
+    game.table.roll.enabled = on;
+    game.view.SetRollEnabled(on);
+}
+
+void SetRollVisible(Game& game, bool on) {
+    game.table.roll.visible = on;
+    game.view.SetRollVisible(on);
+}
+
+void SetRollReady(Game& game) {
+    SetRollEnabled(game, true);
+    SetRollPicture(game, RollPicture::Up);
+}
+
+void SetRollOff(Game& game) {
+    SetRollEnabled(game, false);
+    SetRollPicture(game, RollPicture::Off);
+}
+
+void ShowDieFace(Game& game, int i, int face) {
+    game.table.dice[i].face = face;
+    game.view.ShowDieFace(i, face);
+}
+
+void ShowDieFree(Game& game, int i) {
+    game.table.dice[i].shown = true;
+    game.table.dice[i].held = false;
+    game.view.ShowDieFree(i);
+}
+
+void ShowDieHeld(Game& game, int i) {
+    game.table.dice[i].shown = true;
+    game.table.dice[i].held = true;
+    game.view.ShowDieHeld(i);
+}
+
+void HideDie(Game& game, int i) {
+    game.table.dice[i].shown = false;
+    game.view.HideDie(i);
+}
+
+void EnableDie(Game& game, int i, bool on) {
+    game.table.dice[i].enabled = on;
+    game.view.EnableDie(i, on);
+}
+
+void SetLamps(Game& game, int n) {
+    game.table.lamps = n;
+    game.view.SetLamps(n);
+}
+
+void ShowBoxButton(Game& game, ScoreColumn column, int row, bool on) {
+    game.card[column].offered[row] = on;
+    game.view.ShowBoxButton(column, row, on);
+}
+
+void EnableBoxButton(Game& game, ScoreColumn column, int row, bool on) {
+    game.card[column].enabled[row] = on;
+    game.view.EnableBoxButton(column, row, on);
+}
+
+void ShowColumnButtons(Game& game, ScoreColumn column, bool on) {
+    for (int row = 0; row < rowCount; ++row) ShowBoxButton(game, column, row, on);
+}
+
+void EnableColumnButtons(Game& game, ScoreColumn column, bool on) {
+    for (int row = 0; row < rowCount; ++row) EnableBoxButton(game, column, row, on);
+}
+
+bool RowOffered(const Game& game, int row) {
+    return std::ranges::any_of(allColumns, [&](ScoreColumn column) { return game.card[column].offered[row]; });
+}
+
+void SetBoxText(Game& game, ScoreColumn column, int row, std::string text) {
+    std::string& box = game.card[column].boxes[row];
+    box = std::move(text);
+    game.view.SetBoxText(column, row, box);
+}
+
+void SetTotalText(Game& game, ScoreColumn column, TotalRow row, std::string text) {
+    std::string& total = game.card[column].Total(row);
+    total = std::move(text);
+    game.view.SetTotalText(column, row, total);
+}
+
+void ClearBoxTexts(Game& game) {
+    for (ScoreColumn column : allColumns)
+        for (int row = 0; row < rowCount; ++row) SetBoxText(game, column, row, "");
+    ClearTips(game);
+}
+
+void ClearColumnTotals(Game& game) {
+    for (ScoreColumn column : allColumns)
+        for (TotalRow row : allTotalRows) SetTotalText(game, column, row, "");
+}
+
+void SetTipText(Game& game, int row, std::string text) {
+    std::string& tip = game.table.tips[row];
+    tip = std::move(text);
+    game.view.SetTipText(row, tip);
+}
+
+void ClearTips(Game& game) {
+    for (int row = 0; row < rowCount; ++row) SetTipText(game, row, "");
+}
+
+void ShowTipColumn(Game& game, bool on) {
+    game.table.tipColumn = on;
+    game.view.ShowTipColumn(on);
+}
+
+void HighlightRowLabel(Game& game, int row) {
+    game.table.highlighted[row] = true;
+    game.view.HighlightRowLabel(row);
+}
+
+void ResetRowLabel(Game& game, int row) {
+    game.table.highlighted[row] = false;
+    game.view.ResetRowLabel(row);
+}
+
+void SetTitle(Game& game, std::string text) {
+    game.table.title = std::move(text);
+    game.view.SetTitle(game.table.title);
+}
+
+void SetTitleFor(Game& game, const std::string& player) { SetTitle(game, titleStart + player); }
+
+bool TitleNames(const Game& game, const std::string& player) { return game.table.title == titleStart + player; }
+
+void SetWindowHeight(Game& game, int twips) {
+    game.table.height = twips;
+    game.view.SetWindowHeight(twips);
+}
+
+void SetPanelText(Game& game, int k, std::string text) {
+    std::string& panel = game.table.Panel(k).text;
+    panel = std::move(text);
+    game.view.SetPanelText(k, panel);
+}
+
+void SetPanelLayout(Game& game, int k, int width, bool visible) {
+    game.table.Panel(k).width = width;
+    game.table.Panel(k).visible = visible;
+    game.view.SetPanelLayout(k, width, visible);
+}
+
+void SetStatusBarVisible(Game& game, bool on) {
+    game.table.statusBar = on;
+    game.view.SetStatusBarVisible(on);
+}
+
+void SetUndoEnabled(Game& game, bool on) {
+    game.table.undo = on;
+    game.view.SetUndoEnabled(on);
+}
+
+void SetRedoEnabled(Game& game, bool on) {
+    game.table.redo = on;
+    game.view.SetRedoEnabled(on);
+}
+
+void SetHintButtonEnabled(Game& game, bool on) {
+    game.table.hintButton = on;
+    game.view.SetHintButtonEnabled(on);
+}
+
+void ShowNextPlayer(Game& game, bool on) {
+    game.table.nextPlayer = on;
+    game.view.ShowNextPlayer(on);
+}
+
+void ShowNextBoardButton(Game& game, bool visible, bool enabled) {
+    game.table.showBoard.visible = visible;
+    game.table.showBoard.enabled = enabled;
+    game.view.ShowNextBoardButton(visible, enabled);
+}
+
+std::string ShowBoardCaption(const std::string& name) { return "    Show      " + name + "'s  Board"; }
+
+void SetShowBoardCaption(Game& game, const std::string& name) {
+    game.table.showBoard.caption = ShowBoardCaption(name);
+    game.view.SetShowBoardCaption(game.table.showBoard.caption);
+}
+
+void EnableTimer(Game& game, Timer timer) {
+    TimerState& state = game.table[timer];
+    if (state.enabled) return;
+    state.enabled = true;
+    game.timers.Start(timer, state.interval);
+}
+
+void DisableTimer(Game& game, Timer timer) {
+    game.table[timer].enabled = false;
+    game.timers.Stop(timer);
+}
+
+void SetTimerInterval(Game& game, Timer timer, int ms) {
+    TimerState& state = game.table[timer];
+    state.interval = ms;
+    if (state.enabled) game.timers.Start(timer, ms);
+}
+
+void PlayEffect(Game& game, std::string_view name) {
+    if (game.session.SoundOn) game.effects.PlayEffect(name);
+}
