@@ -1,0 +1,6 @@
+#include "core/music.h"
+
+void StopMusic(Game& game) { game.media.Send("close myMP3"); }
+void PauseMusic(Game& game) { game.media.Send("pause myMP3"); }
+void ResumeMusic(Game& game) { game.media.Send("resume myMP3"); }
+void CloseSong(Game& game) { game.media.Send("close song"); }
