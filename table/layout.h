@@ -38,7 +38,8 @@ inline constexpr int statusBarHeight = 270;
 
 inline constexpr int shiftUp = -250;
 
-// SetFrameHeight: the row label panel and the lines around it.
+// The lines of a frame are its left, top, right and bottom. The row label panel and the lines around it follow
+// SetFrameHeight, everything else LayOut.
 inline constexpr ControlPlace rowPanelPlace{"Picture2", {142, 587, 1655, 4740}, 0, -235};
 inline constexpr std::array<ControlPlace, 4> rowFrameLines{{
     {"Line1", {82, 520, 0, 4894}, 0, shiftUp},
@@ -47,7 +48,6 @@ inline constexpr std::array<ControlPlace, 4> rowFrameLines{{
     {"Line4", {82, 5414, 1958, 0}, shiftUp},
 }};
 
-// A raised frame is light at its left and top and dark at its right and bottom: the lines come in that order.
 inline constexpr std::array<ControlPlace, 4> boxFrameLines{{
     {"Line9", {2100, 520, 0, 4894}, 0, shiftUp},
     {"Line11", {2100, 520, 2625, 0}},
@@ -96,12 +96,13 @@ struct SumRow {
     const char* frame;
     const char* text;
     int top;
-    int moves;
+    int moves = 0;
+    bool onlyFourColumns = false;
 };
 inline constexpr std::array<SumRow, 4> sumRows{{
-    {"Label4", "shpLabel4", "Sub Total ", 1630, 0},
-    {"Label3", "shpLabel3", "(Max-Min)xOnes ", 2490, 0},
-    {"Label13", "shpLabel13", "Column Total ", 4125, 0},
+    {"Label4", "shpLabel4", "Sub Total ", 1630},
+    {"Label3", "shpLabel3", "(Max-Min)xOnes", 2490},
+    {"Label13", "shpLabel13", "Column Total ", 4125, 0, true},
     {"Label2", "shpLabel2", "Grand Total ", 4425, shiftUp},
 }};
 

@@ -1,7 +1,8 @@
 #include "table/status_bar.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <iomanip>
+#include <sstream>
 #include <utility>
 
 #include "core/show.h"
@@ -41,11 +42,14 @@ std::string OneSecondLater(const std::string& clock) {
     int hours = 0;
     int minutes = 0;
     int seconds = 0;
-    std::sscanf(clock.c_str(), "%d:%d:%d", &hours, &minutes, &seconds);
-    const int time = ((hours * 60 + minutes) * 60 + seconds + 1) % (24 * 60 * 60);
-    char text[sizeof "00:00:00"];
-    std::snprintf(text, sizeof text, "%02d:%02d:%02d", time / 3600, time / 60 % 60, time % 60);
-    return text;
+    char colon = ':';
+    std::istringstream(clock) >> hours >> colon >> minutes >> colon >> seconds;
+    const int time = (hours * 60 + minutes) * 60 + seconds + 1;
+    std::ostringstream text;
+    text << std::setfill('0');
+    text << std::setw(2) << time / 3600 % 24 << ':' << std::setw(2) << time / 60 % 60 << ':' << std::setw(2)
+         << time % 60;
+    return text.str();
 }
 
 }  // namespace

@@ -1,0 +1,6 @@
+#pragma once
+
+// The program brings its own style and light colours, so that it looks the same on a light and on a dark desktop.
+
+void PrepareLook();  // before the application object is made
+void ApplyLook();    // after it

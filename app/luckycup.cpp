@@ -1,0 +1,78 @@
+#include "app/luckycup.h"
+
+#include <QDir>
+#include <QLockFile>
+#include <QStandardPaths>
+
+#include "app/qt_ports.h"
+#include "app/silent_sound.h"
+#include "dialogs/message_box.h"
+#include "dialogs/qt_dialogs.h"
+#include "sound/background_music.h"
+#include "store/settings_store.h"
+#include "store/top_score_files.h"
+#include "table/frm_lucky_cup.h"
+#include "table/qt_timers.h"
+#include "table/table_parts.h"
+
+namespace {
+QString LockPath() { return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/LuckyCup.lock"; }
+
+// A lock that a crashed process left behind does not count, nor does a folder that takes no lock at all.
+bool RunsAlready(QLockFile& lock) {
+    lock.setStaleLockTime(0);  // however old: only the death of its owner makes a lock stale
+    return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
+}
+
+std::string ProgramFolder() {
+    return (QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) + QDir::separator()).toStdString();
+}
+
+// All that stands behind one table, each made before what it is handed to.
+struct Program {
+    explicit Program(const std::string& programFolder) : scores(programFolder) {
+        game.session.AppPath = programFolder;
+        game.settings = store.LoadSettings();
+        timers.SetTick([this](Timer timer) { Tick(timer); });
+    }
+
+    void Tick(Timer timer) {
+        switch (timer) {
+            case Timer::Timer3:
+                return Timer3_Timer(game, music);
+            case Timer::Timer4:
+                return Timer4_Timer(game, music);
+            default:
+                return parts.Tick(game, timer);
+        }
+    }
+
+    EventGate gate;
+    Art art;
+    frmLuckyCup window{gate, art};
+    QtTimers timers{gate};
+    QtClock clock;
+    SeededRandom random;
+    SilentSound sound;
+    QtDialogs dialogs{window, gate, art};
+    TopScoreFiles scores;
+    DesktopShell shell;
+    RegistrySettings store;
+    TableParts parts;
+    BackgroundMusic music;
+    Game game{Ports{window, timers, clock, random, sound, sound, dialogs, scores, shell, store, parts}};
+};
+}  // namespace
+
+int Main(QApplication& app) {
+    QLockFile lock(LockPath());
+    if (RunsAlready(lock)) {
+        ShowMessageBox(nullptr,
+                       {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
+        return 0;
+    }
+    Program program(ProgramFolder());
+    program.window.Load(program.game);
+    program.window.show();
+    return app.exec();
+}

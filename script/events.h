@@ -1,0 +1,18 @@
+#pragma once
+
+#include "script/headless_table.h"
+#include "script/script_line.h"
+
+// What the player of a script has in hand: the table, and what the mouse and the window did before.
+struct ScriptTable {
+    HeadlessTable table;
+    bool started = false;
+    bool closed = false;
+    ByColumn<std::array<bool, rowCount>> hovered;  // the mouse moved onto the button and has not left it since
+};
+
+bool IsEvent(std::string_view command);
+
+// Carries out the event of the line. Returns whether it did anything: false for an input whose control takes none.
+// Throws BadLine; one that an answer caused leaves the table where the dialog stood.
+bool RunEvent(ScriptTable& script, const ScriptLine& line);

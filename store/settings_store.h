@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QSettings>
+#include <string>
+
+#include "core/ports.h"
+
+// A value of the key, up to its first NUL. otherwise when it is missing or is no text. Texts are UTF-8.
+std::string RegGetString(const QSettings& key, const char* name, const std::string& otherwise);
+void RegSetString(QSettings& key, const char* name, const std::string& text);
+
+// The user's settings: fifteen named texts. A store that cannot be read counts as empty, and one that cannot be
+// written stays as it is; neither is told.
+class RegistrySettings final : public SettingsStore {
+public:
+    RegistrySettings();
+
+    // A store without NumberOfDice is new and gives a first run's settings. In any other a value that is missing, or
+    // not one that its field can have, gives the first run's for that field.
+    GameSettings LoadSettings() override;
+    void SaveSettings(const GameSettings& settings) override;
+
+private:
+    QSettings key;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QHash>
+#include <QPainter>
+#include <QPixmap>
+#include <QString>
+
+// The pictures of the game, drawn from the vector art inside the program. A picture is rendered when it is first
+// wanted at a size and kept.
+class Art {
+public:
+    Art();
+
+    // The picture with this name, such as "die_free_3", filling so many device pixels. The reference holds until the
+    // next call.
+    const QPixmap& Picture(const QString& name, QSize devicePixels);
+
+    // Draws the picture over an area in the painter's coordinates, snapped to whole device pixels so that it stays
+    // sharp at every scale.
+    void Draw(QPainter& painter, const QRectF& area, const QString& name);
+
+    // The same picture for callers that want an icon or a pointer of a logical size.
+    QPixmap Scaled(const QString& name, QSize size, qreal devicePixelRatio);
+
+private:
+    QHash<QString, QPixmap> rendered_;
+};
+
+// The area in whole device pixels that a painter covers when it is told to fill this one.
+QRect DeviceArea(const QPainter& painter, const QRectF& area);
+
+// From here on the painter works in device pixels.
+void UseDevicePixels(QPainter& painter);

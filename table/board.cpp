@@ -1,0 +1,126 @@
+#include "table/board.h"
+
+#include <QEvent>
+
+#include "table/row_names.h"
+
+namespace {
+constexpr LabelLook boxLook{colour::box, colour::black, colour::boxShade, colour::boxShine};
+constexpr LabelLook maxMinLook{colour::box, colour::maxMinText, colour::boxShade, colour::boxShine};
+constexpr LabelLook sumLook{colour::white, colour::sumText, colour::boxShade, colour::boxShine};
+constexpr LabelLook columnTotalLook{colour::columnTotal, colour::columnTotalText, colour::boxShade, colour::boxShine};
+
+const std::array<const char*, 3> totalSuffixes{"Tot1", "Tot2", "Tot"};
+const std::array<const char*, 3> totalNames{"Sub Total", "Max minus Min times Ones", "Column Total"};
+
+QString Index(const QString& array, int i) { return QString("%1_%2").arg(array).arg(i); }
+
+QString Called(ScoreColumn column, const char* what) { return QString("%1 column, %2").arg(ColumnName(column), what); }
+
+PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_empty"}; }
+PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, {}}; }
+PictureButton::Looks WideHotLooks(int row) { return {Index("row_hot", row), {}, Index("row_plain", row)}; }
+}  // namespace
+
+BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, Hover hover)
+    : PictureButton(name, parent, art, NarrowLooks()), hover_(std::move(hover)) {
+    setMouseTracking(true);
+}
+
+void BoxButton::TellHover(bool on) {
+    if (hovered_ == on || (on && !isEnabled())) return;
+    hovered_ = on;
+    hover_(on);
+}
+
+void BoxButton::enterEvent(QEnterEvent* event) {
+    PictureButton::enterEvent(event);
+    TellHover(true);
+}
+
+// A button that was enabled under a resting mouse lights up with the first move.
+void BoxButton::mouseMoveEvent(QMouseEvent* event) {
+    PictureButton::mouseMoveEvent(event);
+    TellHover(underMouse());
+}
+
+void BoxButton::leaveEvent(QEvent* event) {
+    PictureButton::leaveEvent(event);
+    TellHover(false);
+}
+
+void BoxButton::hideEvent(QHideEvent* event) {
+    PictureButton::hideEvent(event);
+    TellHover(false);
+}
+
+void BoxButton::changeEvent(QEvent* event) {
+    PictureButton::changeEvent(event);
+    if (event->type() != QEvent::EnabledChange) return;
+    if (!isEnabled()) TellHover(false);
+}
+
+Board::Board(QWidget* table, Art& art, const Events& events)
+    : ground_(new Shape(boxGroundPlace.name, table, colour::boxGround)),
+      arrowsFour_(new Picture("imgArrow", table, art, "arrows_4")),
+      arrowsOne_(new Picture("imgArrow2", table, art, "arrows_1")) {
+    arrowsFour_->setGeometry(Pixels(arrowsFourPlace));
+    arrowsOne_->setGeometry(Pixels(arrowsOnePlace));
+    for (ScoreColumn column : allColumns) MakeColumn(column, table, art, events);
+}
+
+void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events) {
+    Column& made = columns_[column];
+    const QString label = QString("lbl") + ColumnName(column);
+    const QString button = QString("cmd") + ColumnName(column);
+    for (int row = 0; row < rowCount; ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        const LabelLook& look = row == rowMax || row == rowMin ? maxMinLook : boxLook;
+        made.boxes[at] = new TextLabel(Index(label, row), table, look, Qt::AlignHCenter);
+        made.boxes[at]->setAccessibleDescription(Called(column, RowName(row)));
+        made.buttons[at] = new BoxButton(Index(button, row), table, art,
+                                         [hover = events.hover, column, row](bool on) { hover(column, row, on); });
+        made.buttons[at]->setAccessibleName(Called(column, RowName(row)) + ", open");
+        QObject::connect(made.buttons[at], &QAbstractButton::clicked,
+                         [click = events.click, column, row] { click(column, row); });
+    }
+    for (std::size_t i = 0; i < allTotalRows.size(); ++i) {
+        const LabelLook& look = allTotalRows[i] == TotalRow::ColumnTotal ? columnTotalLook : sumLook;
+        made.totals[i] = new TextLabel(label + totalSuffixes[i], table, look, Qt::AlignHCenter);
+        made.totals[i]->setAccessibleDescription(Called(column, totalNames[i]));
+    }
+}
+
+void Board::LayOut(int columns) {
+    const bool four = columns == 4;
+    ground_->setGeometry(Pixels(boxGroundPlace.In(columns)));
+    arrowsFour_->setVisible(four);
+    arrowsOne_->setVisible(!four);
+    for (ScoreColumn column : allColumns) PlaceColumn(column, columns);
+    for (int row = 0; row < rowCount; ++row)
+        Button(ScoreColumn::Rand, row).SetLooks(four ? NarrowLooks() : WideLooks(row));
+}
+
+void Board::PlaceColumn(ScoreColumn column, int columns) {
+    const bool used = columns == 4 || column == ScoreColumn::Rand;
+    for (int row = 0; row < rowCount; ++row) {
+        const int top = boxTops[static_cast<std::size_t>(row)];
+        Box(column, row).setGeometry(Pixels(BoxPlace(column, top, boxLabelHeight, columns)));
+        Box(column, row).setVisible(used);
+        Button(column, row).setGeometry(Pixels(BoxPlace(column, top, boxButtonHeight, columns)));
+    }
+    for (TotalRow row : allTotalRows) {
+        const int top = totalTops[static_cast<std::size_t>(row)];
+        Total(column, row).setGeometry(Pixels(BoxPlace(column, top, boxLabelHeight, columns)));
+        Total(column, row).setVisible(used && (columns == 4 || row != TotalRow::ColumnTotal));
+    }
+}
+
+void Board::SetPointer(const QCursor& pointer) {
+    for (ScoreColumn column : allColumns)
+        for (int row = 0; row < rowCount; ++row) Button(column, row).setCursor(pointer);
+}
+
+void Board::SetBoxPicture(int row, bool normal) {
+    Button(ScoreColumn::Rand, row).SetLooks(normal ? WideLooks(row) : WideHotLooks(row));
+}

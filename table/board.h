@@ -1,0 +1,63 @@
+#pragma once
+
+#include <functional>
+
+#include "table/controls.h"
+#include "table/layout.h"
+
+// A button over an open box. It tells when the mouse comes onto it while it can be clicked, and when it leaves again.
+class BoxButton final : public PictureButton {
+public:
+    using Hover = std::function<void(bool onButton)>;
+
+    BoxButton(const QString& name, QWidget* parent, Art& art, Hover hover);
+
+protected:
+    void enterEvent(QEnterEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void TellHover(bool on);
+
+    Hover hover_;
+    bool hovered_ = false;
+};
+
+// The boxes of the four columns with their buttons, the totals under them and what stands around them.
+class Board {
+public:
+    struct Events {
+        std::function<void(ScoreColumn, int row)> click;
+        std::function<void(ScoreColumn, int row, bool onButton)> hover;
+    };
+
+    Board(QWidget* table, Art& art, const Events& events);
+
+    void LayOut(int columns);
+    void SetPointer(const QCursor& pointer);
+
+    BoxButton& Button(ScoreColumn column, int row) { return *columns_[column].buttons[static_cast<std::size_t>(row)]; }
+    TextLabel& Box(ScoreColumn column, int row) { return *columns_[column].boxes[static_cast<std::size_t>(row)]; }
+    TextLabel& Total(ScoreColumn column, TotalRow row) {
+        return *columns_[column].totals[static_cast<std::size_t>(row)];
+    }
+    void SetBoxPicture(int row, bool normal);
+
+private:
+    struct Column {
+        std::array<TextLabel*, rowCount> boxes{};
+        std::array<BoxButton*, rowCount> buttons{};
+        std::array<TextLabel*, 3> totals{};
+    };
+
+    void MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events);
+    void PlaceColumn(ScoreColumn column, int columns);
+
+    Shape* ground_;
+    Picture* arrowsFour_;
+    Picture* arrowsOne_;
+    ByColumn<Column> columns_;
+};

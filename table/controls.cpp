@@ -1,0 +1,121 @@
+#include "table/controls.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+QFont TableFont(bool bold, int pixels) {
+    QFont font;
+    font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans"});
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight) {
+    if (bottomRight.isValid()) {
+        painter.fillRect(area.left(), area.bottom(), area.width(), 1, bottomRight);
+        painter.fillRect(area.right(), area.top(), 1, area.height(), bottomRight);
+    }
+    if (topLeft.isValid()) {
+        painter.fillRect(area.left(), area.top(), area.width(), 1, topLeft);
+        painter.fillRect(area.left(), area.top(), 1, area.height(), topLeft);
+    }
+}
+
+Shape::Shape(const QString& name, QWidget* parent, QColor fill, QColor frame)
+    : QWidget(parent), fill_(fill), frame_(frame) {
+    setObjectName(name);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Shape::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (fill_.isValid()) painter.fillRect(rect(), fill_);
+    PaintEdges(painter, rect(), frame_, frame_);
+}
+
+TextLabel::TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment)
+    : QLabel(parent), look_(look) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setAlignment(alignment | Qt::AlignVCenter);
+    setFont(TableFont(true));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void TextLabel::SetLook(const LabelLook& look) {
+    look_ = look;
+    update();
+}
+
+void TextLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), look_.ground);
+    PaintEdges(painter, rect(), look_.topLeftEdge, look_.bottomRightEdge);
+    painter.setPen(look_.text);
+    painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+}
+
+Picture::Picture(const QString& name, QWidget* parent, Art& art, const QString& picture)
+    : QWidget(parent), art_(art), picture_(picture) {
+    setObjectName(name);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Picture::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    art_.Draw(painter, rect(), picture_);
+}
+
+PictureButton::PictureButton(const QString& name, QWidget* parent, Art& art, const Looks& looks)
+    : QAbstractButton(parent), art_(art), looks_(looks) {
+    setObjectName(name);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void PictureButton::SetLooks(const Looks& looks) {
+    looks_ = looks;
+    update();
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QString& wanted = !isEnabled() ? looks_.disabled : underMouse() ? looks_.underMouse : looks_.plain;
+    art_.Draw(painter, rect(), wanted.isEmpty() ? looks_.plain : wanted);
+}
+
+void PictureButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void PictureButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+CaptionButton::CaptionButton(const QString& name, QWidget* parent) : QAbstractButton(parent) {
+    setObjectName(name);
+    setAttribute(Qt::WA_Hover);
+    setAttribute(Qt::WA_NoMousePropagation);
+    setFocusPolicy(Qt::NoFocus);
+    setFont(TableFont(true));
+}
+
+void CaptionButton::SetCaption(const QString& caption) {
+    caption_ = caption.simplified();
+    setText(QString(caption).replace('&', "&&"));
+    setAccessibleName(caption_);
+    update();
+}
+
+void CaptionButton::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    option.initFrom(this);
+    option.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(rect().adjusted(6, 4, -6, -4), Qt::AlignCenter | Qt::TextWrapAnywhere | Qt::TextWordWrap,
+                     caption_);
+}

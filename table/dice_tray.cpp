@@ -1,0 +1,147 @@
+#include "table/dice_tray.h"
+
+#include <QMouseEvent>
+
+namespace {
+QString Index(const char* array, int i) { return QString("%1_%2").arg(array).arg(i); }
+
+PictureButton::Looks FreeLooks(int face) { return {Index("die_free", face), {}, {}}; }
+PictureButton::Looks HeldLooks(int face) { return {Index("die_held", face), {}, {}}; }
+
+QString Said(int i, int face, const char* state) {
+    return QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state);
+}
+
+PictureButton::Looks RollLooks(RollPicture kind) {
+    switch (kind) {
+        case RollPicture::Up:
+            return {"roll_up", {}, {}};
+        case RollPicture::On:
+            return {"roll_on", {}, {}};
+        case RollPicture::Off:
+            return {"roll_off", {}, {}};
+    }
+    return {};
+}
+}  // namespace
+
+RollButton::RollButton(QWidget* parent, Art& art)
+    : PictureButton("picRollDices", parent, art, RollLooks(RollPicture::Up)) {
+    setAccessibleName("Roll the dice");
+}
+
+void RollButton::mousePressEvent(QMouseEvent* event) {
+    held_ |= event->button();
+    emit pressed();
+}
+
+void RollButton::mouseReleaseEvent(QMouseEvent* event) {
+    const bool wasHeld = held_.testFlag(event->button());
+    held_ &= ~Qt::MouseButtons(event->button());
+    if (wasHeld) emit released();
+}
+
+DiceTray::DiceTray(QWidget* table, Art& art, const Events& events)
+    : tray_(new Shape(trayPlace.name, table, colour::tray, colour::trayEdge)),
+      rollFrame_(new Shape(rollFramePlace.name, table, {}, colour::trayEdge)),
+      roll_(new RollButton(table, art)) {
+    for (int i = 0; i < maxDice; ++i) MakeDie(i, table, art, events);
+    MakeRollButton(art, events);
+}
+
+void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
+    Die& die = At(i);
+    die.frame = new Shape(dieFrameNames[static_cast<std::size_t>(i)], table, colour::trayEdge);
+    die.free = new PictureButton(Index("picDice", i), table, art, {});
+    die.held = new PictureButton(Index("PicDiceOff", i), table, art, {});
+    die.held->hide();
+    ShowFace(i, i + 1);
+    QObject::connect(die.free, &QAbstractButton::clicked, [hold = events.hold, i] { hold(i); });
+    QObject::connect(die.held, &QAbstractButton::clicked, [release = events.release, i] { release(i); });
+}
+
+void DiceTray::MakeRollButton(Art& art, const Events& events) {
+    QObject::connect(roll_, &QAbstractButton::pressed, events.rollDown);
+    QObject::connect(roll_, &QAbstractButton::released, events.rollUp);
+    for (int k = 0; k < 3; ++k) {
+        const auto at = static_cast<std::size_t>(k);
+        const QRect area = Pixels(Place{lampLefts[at], lampTop, lampSize, lampSize});
+        darkLamps_[at] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
+        litLamps_[at] = new Picture(Index("picRound", k), roll_, art, "lamp_lit");
+        darkLamps_[at]->setGeometry(area);
+        litLamps_[at]->setGeometry(area);
+    }
+    SetLamps(0);
+    nextPlayer_ = new CaptionButton("cmdNextPlayer", roll_);
+    nextPlayer_->setGeometry(Pixels(nextPlayerPlace));
+    nextPlayer_->SetCaption("Next Player");
+    nextPlayer_->hide();
+    QObject::connect(nextPlayer_, &QAbstractButton::clicked, events.nextPlayer);
+    showBoard_ = new CaptionButton("cmdShowNextBoard", roll_);
+    showBoard_->setGeometry(Pixels(showBoardPlace));
+    ShowNextBoardButton(false, false);
+    QObject::connect(showBoard_, &QAbstractButton::clicked, events.showBoard);
+}
+
+void DiceTray::LayOut(int columns, int lastDieIndex) {
+    tray_->setGeometry(Pixels(trayPlace.In(columns)));
+    rollFrame_->setGeometry(Pixels(rollFramePlace.In(columns)));
+    roll_->setGeometry(Pixels(rollPlace.In(columns)));
+    for (int i = 0; i < maxDice; ++i) {
+        const QRect area = Pixels(DiePlace(i, columns, lastDieIndex));
+        At(i).free->setGeometry(area);
+        At(i).held->setGeometry(area);
+        At(i).frame->setGeometry(Pixels(DieFramePlace(i, columns, lastDieIndex)));
+        At(i).frame->setVisible(i <= lastDieIndex);
+    }
+}
+
+void DiceTray::SetPointers(const QCursor& hand, const QCursor& base) {
+    for (Die& die : dice_) die.free->setCursor(hand);
+    roll_->setCursor(hand);
+    showBoard_->setCursor(hand);
+    nextPlayer_->setCursor(base);
+}
+
+void DiceTray::SetRollPicture(RollPicture kind) { roll_->SetLooks(RollLooks(kind)); }
+
+void DiceTray::ShowFace(int i, int face) {
+    ShowFreeFace(i, face);
+    At(i).held->SetLooks(HeldLooks(face));
+    At(i).free->setAccessibleName(Said(i, face, "free"));
+    At(i).held->setAccessibleName(Said(i, face, "held"));
+}
+
+void DiceTray::ShowFreeFace(int i, int face) { At(i).free->SetLooks(FreeLooks(face)); }
+
+void DiceTray::ShowFree(int i) {
+    At(i).free->show();
+    At(i).held->hide();
+}
+
+void DiceTray::ShowHeld(int i) {
+    At(i).held->show();
+    At(i).free->hide();
+}
+
+void DiceTray::Hide(int i) {
+    At(i).free->hide();
+    At(i).held->hide();
+}
+
+void DiceTray::EnableDie(int i, bool on) {
+    At(i).free->setEnabled(on);
+    At(i).held->setEnabled(on);
+}
+
+void DiceTray::SetLamps(int n) {
+    for (int k = 0; k < 3; ++k) {
+        litLamps_[static_cast<std::size_t>(k)]->setVisible(k < n);
+        darkLamps_[static_cast<std::size_t>(k)]->setVisible(k >= n);
+    }
+}
+
+void DiceTray::ShowNextBoardButton(bool visible, bool enabled) {
+    showBoard_->setVisible(visible);
+    showBoard_->setEnabled(enabled);
+}

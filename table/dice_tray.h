@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+
+#include "core/table_state.h"
+#include "table/controls.h"
+#include "table/layout.h"
+
+// The Roll button. Any mouse button presses it, and what was pressed on it is let go on it wherever the mouse went.
+class RollButton final : public PictureButton {
+public:
+    RollButton(QWidget* parent, Art& art);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    Qt::MouseButtons held_;
+};
+
+// The dark tray with the dice, and the Roll button with what it holds: lamps, Next Player and Show Board.
+class DiceTray {
+public:
+    struct Events {
+        std::function<void()> rollDown, rollUp, nextPlayer, showBoard;
+        std::function<void(int i)> hold, release;
+    };
+
+    DiceTray(QWidget* table, Art& art, const Events& events);
+
+    void LayOut(int columns, int lastDieIndex);
+    void SetPointers(const QCursor& hand, const QCursor& base);
+
+    void SetRollPicture(RollPicture kind);
+    void SetRollEnabled(bool on) { roll_->setEnabled(on); }
+    void SetRollVisible(bool on) { roll_->setVisible(on); }
+    void ShowFace(int i, int face);
+    void ShowFreeFace(int i, int face);
+    void ShowFree(int i);
+    void ShowHeld(int i);
+    void Hide(int i);
+    void EnableDie(int i, bool on);
+    void SetLamps(int n);
+    void ShowNextPlayer(bool on) { nextPlayer_->setVisible(on); }
+    void ShowNextBoardButton(bool visible, bool enabled);
+    void SetShowBoardCaption(const QString& caption) { showBoard_->SetCaption(caption); }
+
+private:
+    struct Die {
+        Shape* frame;
+        PictureButton* free;
+        PictureButton* held;
+    };
+
+    void MakeDie(int i, QWidget* table, Art& art, const Events& events);
+    void MakeRollButton(Art& art, const Events& events);
+    Die& At(int i) { return dice_[static_cast<std::size_t>(i)]; }
+
+    Shape* tray_;
+    std::array<Die, maxDice> dice_{};
+    Shape* rollFrame_;
+    RollButton* roll_;
+    std::array<Picture*, 3> darkLamps_{};
+    std::array<Picture*, 3> litLamps_{};
+    CaptionButton* nextPlayer_ = nullptr;
+    CaptionButton* showBoard_ = nullptr;
+};

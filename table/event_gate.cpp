@@ -1,0 +1,35 @@
+#include "table/event_gate.h"
+
+#include <utility>
+
+void EventGate::Run(Handler handler) {
+    if (Busy()) {
+        waiting_.push_back(std::move(handler));
+        return;
+    }
+    Enter(handler);
+}
+
+void EventGate::Enter(const Handler& handler) {
+    ++depth_;
+    handler();
+    --depth_;
+    RunLater();
+}
+
+void EventGate::RunLater() {
+    if (waiting_.empty()) return;
+    QMetaObject::invokeMethod(
+        this, [this] { RunWaiting(); }, Qt::QueuedConnection);
+}
+
+void EventGate::RunWaiting() {
+    if (Busy() || waiting_.empty()) return;
+    const Handler handler = std::move(waiting_.front());
+    waiting_.pop_front();
+    Enter(handler);
+}
+
+EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) { gate_.RunLater(); }
+
+EventGate::Open::~Open() { gate_.depth_ = depth_; }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+#include <deque>
+#include <functional>
+
+// The one door into the game. A handler runs to its end before the next one begins: what wants in meanwhile waits its
+// turn and runs, in order, when the event loop is reached again. While a modal window stands open inside a handler the
+// door is open once more, so that timers go on behind it.
+class EventGate final : public QObject {
+public:
+    using Handler = std::function<void()>;
+
+    void Run(Handler handler);
+    bool Busy() const { return depth_ > 0; }
+
+    // Stands around the event loop of a modal window.
+    class Open {
+    public:
+        explicit Open(EventGate& gate);
+        ~Open();
+        Open(const Open&) = delete;
+        Open& operator=(const Open&) = delete;
+
+    private:
+        EventGate& gate_;
+        int depth_;
+    };
+
+private:
+    void Enter(const Handler& handler);
+    void RunLater();
+    void RunWaiting();
+
+    int depth_ = 0;
+    std::deque<Handler> waiting_;
+};

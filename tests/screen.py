@@ -1,0 +1,103 @@
+"""An X display of our own, off-screen, whose picture can be read without asking the server."""
+
+import ctypes
+import mmap
+import os
+import pathlib
+import struct
+import subprocess
+import tempfile
+import time
+
+WIDTH, HEIGHT = 800, 700  # pixels of 4 bytes: blue, green, red, unused
+BLACK = b"\0"  # the empty screen
+
+
+def wait_for(what, answer, seconds=30, pause=0.1):
+    """Asks until the answer is not false, and returns it. Raises TimeoutError."""
+    end = time.monotonic() + seconds
+    while not (found := answer()):
+        if time.monotonic() > end:
+            raise TimeoutError(f"waited {seconds} s in vain for {what}")
+        time.sleep(pause)
+    return found
+
+
+class Screen:
+    def __enter__(self):
+        self._folder = tempfile.TemporaryDirectory(prefix="lucky-cup-")
+        self._programs = []
+        read, write = os.pipe()
+        self._server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self._folder.name],
+            pass_fds=[write], stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as answer:
+            number = answer.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb did not start")
+        self._environment = {**os.environ, "DISPLAY": ":" + number, "QT_QPA_PLATFORM": "xcb"}
+        # Nothing of the desktop that the test may have been started from.
+        for name in ("WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "QT_SCALE_FACTOR"):
+            self._environment.pop(name, None)
+        with open(pathlib.Path(self._folder.name, "Xvfb_screen0"), "rb") as file:
+            self._buffer = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
+        header = struct.unpack_from(">25I", self._buffer)  # of an X window dump: its size, the colours of 12 bytes
+        self._start = header[0] + 12 * header[19]
+        return self
+
+    def __exit__(self, *_):
+        for process in [*self._programs, self._server]:
+            if process.poll() is None:
+                process.kill()
+                process.wait()
+        self._buffer.close()
+        self._folder.cleanup()
+
+    def start(self, *command, stderr=None):
+        """Starts a program as a new user would see it, but for the cache, which holds the list of fonts."""
+        home = pathlib.Path(tempfile.mkdtemp(dir=self._folder.name))
+        environment = {**self._environment, "HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"),
+                       "XDG_CACHE_HOME": self._folder.name, "XDG_RUNTIME_DIR": str(home), "TMPDIR": str(home)}
+        process = subprocess.Popen([*map(str, command)], env=environment, stdin=subprocess.DEVNULL, stderr=stderr)
+        self._programs.append(process)
+        return process
+
+    def xdotool(self, *arguments):
+        result = subprocess.run(["xdotool", *arguments], env=self._environment, text=True, capture_output=True)
+        return result.stdout
+
+    def find_window(self, title):
+        """The first visible window whose title matches, or None."""
+        return next(iter(self.xdotool("search", "--onlyvisible", "--name", title).split()), None)
+
+    def place(self, window):
+        """x, y, width and height in pixels."""
+        lines = self.xdotool("getwindowgeometry", "--shell", window).split()
+        values = dict(line.split("=") for line in lines)
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def row(self, x, y, width):
+        first = self._start + 4 * (y * WIDTH + x)
+        return self._buffer[first:first + 4 * width]
+
+    def picture(self, x, y, width, height):
+        return [self.row(x, y + line, width) for line in range(height)]
+
+    def press(self, window, key):
+        """Gives the window the focus, which no window manager does here, and types the key."""
+        self.xdotool("windowfocus", "--sync", window, "key", key)
+
+    def ask_to_close(self, window):
+        """What a window manager sends when the close box is pressed. (xdotool can only destroy a window.)"""
+        x = ctypes.CDLL("libX11.so.6")
+        x.XOpenDisplay.restype = ctypes.c_void_p
+        x.XInternAtom.restype = ctypes.c_ulong
+        display = ctypes.c_void_p(x.XOpenDisplay(self._environment["DISPLAY"].encode()))
+        protocols, delete = (x.XInternAtom(display, name, 0) for name in (b"WM_PROTOCOLS", b"WM_DELETE_WINDOW"))
+        client_message = 33
+        event = ctypes.create_string_buffer(192)  # the size of an XEvent
+        struct.pack_into("@iLiPLLi5l", event, 0, client_message, 0, 1, display.value, int(window), protocols, 32,
+                         delete, 0, 0, 0, 0)
+        x.XSendEvent(display, ctypes.c_ulong(int(window)), 0, ctypes.c_long(0), event)
+        x.XCloseDisplay(display)

@@ -1,0 +1,296 @@
+#include "store/top_score_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <csignal>
+#include <functional>
+#include <random>
+
+namespace {
+
+const QByteArray unused = QByteArray::fromHex("00202020202020202020 f1d8ffff 00202020202020202020");
+const QByteArray trailer = QByteArray::fromHex("01000000");
+
+// A slot as the program writes it, with a score of 0 to 65535.
+QByteArray Slot(int score) {
+    return "Ann       " + QByteArray(1, static_cast<char>(score & 0xFF)) +
+           QByteArray(1, static_cast<char>(score >> 8)) + QByteArray(2, '\0') + "2/1/2003  ";
+}
+
+// The slots of falling scores from high down to low.
+QByteArray Slots(int high, int low) {
+    QByteArray bytes;
+    for (int score = high; score >= low; --score) bytes += Slot(score);
+    return bytes;
+}
+
+QByteArray Zeros(int count) { return QByteArray(24 * count, '\0'); }
+
+class TopScoreFilesTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(QDir().mkdir(folder.filePath("scores"))); }
+    void TearDown() override { ASSERT_EQ(seteuid(getuid()), 0); }
+
+    QString Path(int number = 1) const { return folder.filePath(QString("scores/scores%1.dat").arg(number)); }
+    void Write(const QByteArray& bytes, int number = 1) const {
+        QFile file(Path(number));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    QByteArray Bytes(int number = 1) const {
+        QFile file(Path(number));
+        return file.open(QIODevice::ReadOnly) ? file.read(1 << 20) : QByteArray("unreadable");
+    }
+    QStringList Names() const {
+        return QDir(folder.filePath("scores")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+    int Record(int score) { return files.Record(1, {"Ann", score, "2/1/2003"}); }
+    int CodeOf(const std::function<void()>& operation) const {
+        try {
+            operation();
+        } catch (const ScoreFileError& error) {
+            EXPECT_EQ(error.path, Path().toStdString());
+            EXPECT_EQ(error.code == 53, error.what() == std::string("File not found"));
+            return error.code;
+        }
+        return 0;
+    }
+    struct Codes {
+        int recorded, loaded, deleted;
+        bool operator==(const Codes&) const = default;
+    };
+    // Deletes last, when the others have met the same state.
+    Codes CodesOfAll() {
+        const int loaded = CodeOf([this] { files.LoadTopScores(1); });
+        const int recorded = CodeOf([this] { Record(7); });
+        return {recorded, loaded, CodeOf([this] { files.DeleteTopScores(1); })};
+    }
+
+    // In memory where there is such a folder: flushing hundreds of tables to a busy disk takes its time.
+    QTemporaryDir folder{(QFileInfo("/dev/shm").isWritable() ? "/dev/shm" : QDir::tempPath()) + "/scores-XXXXXX"};
+    TopScoreFiles files{(folder.path() + '/').toStdString()};
+};
+
+TEST_F(TopScoreFilesTest, FirstRecordLaysTheWholeTable) {
+    const std::pair<ScoreRecord, const char*> cases[] = {
+        {{"Ann", 258, "2/1/2003"}, "416e6e20202020202020 02010000 322f312f323030332020"},
+        {{"", 0, ""}, "20202020202020202020 00000000 20202020202020202020"},
+        {{"  Bartholomew Q", -2, "2003-12-31 23"}, "202042617274686f6c6f feffffff 323030332d31322d3331"},
+        {{"Žoë €“Ÿ", 2147483647, "ليلى"}, "8e6feb2080939f202020 ffffff7f 3f3f3f3f202020202020"},
+        {{"王😀\u0081~\x7F", -2147483647 - 1, "\u0080\u00A0"}, "3f3f817e7f2020202020 00000080 3fa02020202020202020"},
+    };
+    for (const auto& [record, slot] : cases) {
+        EXPECT_EQ(files.Record(1, record), 1);
+        const QByteArray first = QByteArray::fromHex(slot);
+        EXPECT_EQ(Bytes().toHex(), (first + unused.repeated(19) + trailer).toHex()) << record.PlayerName;
+        files.DeleteTopScores(1);
+        EXPECT_FALSE(files.TopScoreFileExists(1));
+    }
+}
+
+TEST_F(TopScoreFilesTest, OddCharactersHaveTheirBytes) {
+    const std::u32string odd = U"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
+    for (std::size_t i = 0; i < odd.size(); ++i) {
+        const ScoreRecord record{QString::fromStdU32String(odd.substr(i, 1)).toStdString(), static_cast<int>(i), ""};
+        files.Record(1, record);
+        EXPECT_EQ(Bytes()[0], static_cast<char>(0x80 + i));
+        EXPECT_EQ(files.LoadTopScores(1)[0], record);
+    }
+}
+
+TEST_F(TopScoreFilesTest, LoadTellsWhatTheBytesSay) {
+    Write(QByteArray::fromHex("20808a9fe98120202020 0cfeffff 322f00ffffffffffffff") + unused + Zeros(1) +
+          Slot(9).left(15));
+    const auto records = files.LoadTopScores(1);
+    EXPECT_EQ(records[0], (ScoreRecord{" €ŠŸé\u0081", -500, "2/"}));
+    EXPECT_EQ(records[1], ScoreRecord{});
+    EXPECT_EQ(records[2], (ScoreRecord{"", 0, ""}));
+    EXPECT_EQ(records[3], (ScoreRecord{"Ann", 9, "2"})) << "cut off in its date";
+    for (std::size_t i = 4; i < records.size(); ++i) EXPECT_EQ(records.at(i), ScoreRecord{});
+}
+
+// What an update of the very file would leave: a table of twenty, and files that no table was ever written to.
+TEST_F(TopScoreFilesTest, RecordUpdatesLikeInPlace) {
+    struct Case {
+        const char* what;
+        QByteArray before;
+        int score;
+        int place;
+        QByteArray after;
+    };
+    const QByteArray full = Slots(120, 101);
+    const QByteArray tied = Slots(120, 116) + Slot(116) + Slots(114, 101);
+    const QByteArray longer = Slots(1207, 1000) + QByteArray(8, 'x');
+    const QByteArray past = Slots(1187, 1000).mid(4) + QByteArray(8, 'x');
+    const QByteArray lastCut = full.left(479) + '\0';
+    const Case cases[] = {
+        {"fills a free place", Slots(9, 8) + unused.repeated(18) + trailer, 1, 3,
+         Slots(9, 8) + Slot(1) + unused.repeated(17) + trailer},
+        {"below its equals", full + trailer, 116, 6, Slots(120, 116) + Slot(116) + Slots(115, 102) + trailer},
+        {"below two equals", tied + trailer, 116, 7, tied.left(144) + Slot(116) + Slots(114, 102) + trailer},
+        {"best", full + trailer, 200, 1, Slot(200) + Slots(120, 102) + trailer},
+        {"last place", full + trailer, 102, 20, Slots(120, 102) + Slot(102) + trailer},
+        {"equal to the last", full + trailer, 101, -1, full + trailer},
+        {"lower than all, trailer spoilt", full + "oops", 5, -1, full + trailer},
+        {"0 bytes", "", 5, 1, Slot(5) + unused.repeated(19) + trailer},
+        {"12 bytes round to none", full.left(12), 5, 1, Slot(5) + unused.repeated(19) + trailer},
+        {"36 bytes round to two", full.left(36), 5, 2, Slot(120) + Slot(5) + unused + Zeros(17) + trailer},
+        {"100 bytes, in between", full.left(100), 118, 4,
+         Slots(120, 118) + Slot(118) + Slot(117) + Zeros(15) + trailer},
+        {"100 bytes, last", full.left(100), 5, 5, Slots(120, 117) + Slot(5) + Zeros(15) + trailer},
+        {"468 bytes round to twenty", full.left(468), 102, 20, Slots(120, 102) + Slot(102) + trailer},
+        {"479 bytes", full.left(479), 110, 12, Slots(120, 110) + Slot(110) + Slots(109, 102) + trailer},
+        {"479 bytes, refused", full.left(479), 101, -1, lastCut + trailer},
+        {"480 bytes", full, 101, -1, full + trailer},
+        {"483 bytes", full + "abc", 120, 2, Slot(120) + Slot(120) + Slots(119, 102) + trailer},
+        {"485 bytes", full + "abcde", 200, 1, Slot(200) + Slots(120, 102) + trailer + "e"},
+        {"5000 bytes", longer, 1300, 1, Slot(1300) + Slots(1207, 1189) + trailer + past},
+        {"5000 bytes, past the table", longer, 1100, 109,
+         Slots(1207, 1188) + trailer + Slots(1187, 1100).mid(4) + Slot(1100) + Slots(1098, 1000) + QByteArray(8, 'x')},
+        {"5000 bytes, refused", longer, 1000, -1, Slots(1207, 1188) + trailer + past},
+    };
+    Write("another table", 2);
+    for (const Case& c : cases) {
+        Write(c.before);
+        EXPECT_EQ(Record(c.score), c.place) << c.what;
+        EXPECT_EQ(Bytes().toHex(), c.after.toHex()) << c.what;
+    }
+    EXPECT_EQ(Names(), QStringList({"scores1.dat", "scores2.dat"}));
+    EXPECT_EQ(Bytes(2), "another table");
+}
+
+TEST_F(TopScoreFilesTest, NegativeScoresStandAboveFreePlacesOnly) {
+    for (const auto& [score, place] :
+         {std::pair{-40, 1}, {-30, 1}, {-9998, 3}, {-9999, -1}, {-30, 2}, {0, 1}, {-50, 5}})
+        EXPECT_EQ(Record(score), place) << score;
+}
+
+TEST_F(TopScoreFilesTest, RandomBytesAreReadForWhatTheySay) {
+    std::mt19937 random(1);
+    for (int round = 0; round < 100; ++round) {
+        QByteArray bytes(static_cast<qsizetype>(random() % 700), '\0');
+        for (char& byte : bytes) byte = static_cast<char>(random());
+        Write(bytes);
+        files.LoadTopScores(1);
+        Record(static_cast<int>(random() % 65536));
+        EXPECT_EQ(Bytes().size(), std::max<qsizetype>(bytes.size(), 484));
+        EXPECT_EQ(Bytes().mid(480, 4), trailer);
+    }
+}
+
+TEST_F(TopScoreFilesTest, WhatIsNoTableFails) {
+    const QByteArray scores = QFile::encodeName(folder.filePath("scores"));
+    const QByteArray table = QFile::encodeName(Path());
+    EXPECT_EQ(CodesOfAll(), (Codes{0, 53, 0})) << "missing, then created";
+    EXPECT_EQ(CodeOf([this] { files.DeleteTopScores(1); }), 53);
+    ASSERT_EQ(mkdir(table, 0777), 0);
+    EXPECT_EQ(CodesOfAll(), (Codes{75, 75, 75})) << "a folder in its place";
+    EXPECT_FALSE(files.TopScoreFileExists(1));
+    ASSERT_EQ(rmdir(table) | mkfifo(table, 0666), 0);
+    EXPECT_EQ(CodesOfAll(), (Codes{75, 75, 75})) << "a pipe in its place";
+    ASSERT_EQ(unlink(table) | rmdir(scores), 0);
+    EXPECT_EQ(CodesOfAll(), (Codes{76, 76, 76})) << "no folder";
+    EXPECT_FALSE(files.TopScoreFileExists(1));
+    ASSERT_TRUE(QFile::copy("/dev/null", scores));
+    EXPECT_EQ(CodesOfAll(), (Codes{76, 76, 76})) << "a file in the folder's place";
+}
+
+TEST_F(TopScoreFilesTest, HugeFileIsNoTableToWrite) {
+    Write(Slots(9, 9));
+    ASSERT_TRUE(QFile::resize(Path(), 5'000'000'000));
+    EXPECT_EQ(CodeOf([this] { Record(7); }), 7);
+    EXPECT_EQ(QFileInfo(Path()).size(), 5'000'000'000);
+    EXPECT_EQ(files.LoadTopScores(1)[0].Score, 9);
+}
+
+TEST_F(TopScoreFilesTest, ProtectedFilesStayAsTheyAre) {
+    Write(Slots(9, 9) + unused.repeated(19) + trailer);
+    const QByteArray before = Bytes();
+    const QByteArray scores = QFile::encodeName(folder.filePath("scores"));
+    const QByteArray table = QFile::encodeName(Path());
+    for (const QByteArray& path : {QFile::encodeName(folder.path()), scores, table}) {
+        ASSERT_EQ(geteuid() == 0 ? chown(path, 65534, 65534) : 0, 0);
+    }
+    ASSERT_EQ(geteuid() == 0 ? seteuid(65534) : 0, 0) << "root, whom nothing is forbidden, steps down";
+
+    ASSERT_EQ(chmod(scores, 0000), 0);
+    EXPECT_EQ(CodesOfAll(), (Codes{70, 70, 70})) << "closed folder";
+    ASSERT_EQ(chmod(scores, 0555), 0);
+    EXPECT_EQ(CodesOfAll(), (Codes{70, 0, 70})) << "read-only folder";
+    ASSERT_EQ(chmod(table, 0444) | chmod(scores, 0755), 0);
+    EXPECT_TRUE(files.TopScoreFileExists(1));
+    EXPECT_EQ(CodeOf([this] { Record(7); }), 70) << "read-only table";
+    EXPECT_EQ(Bytes(), before);
+    EXPECT_EQ(CodesOfAll(), (Codes{70, 0, 0})) << "read-only table";
+    EXPECT_EQ(Names(), QStringList());
+}
+
+TEST_F(TopScoreFilesTest, FileThatCannotGrowStaysAsItIs) {
+    Write(Slots(4, 1));
+    const pid_t child = fork();
+    if (child == 0) {
+        const rlimit limit{100, 100};
+        std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        _exit(CodeOf([this] { Record(7); }));
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 57);
+    EXPECT_EQ(Bytes(), Slots(4, 1));
+    EXPECT_EQ(Names(), QStringList("scores1.dat"));
+}
+
+TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsLeftovers) {
+    const QString elsewhere = folder.filePath("elsewhere.dat");
+    Record(5);
+    ASSERT_TRUE(QFile::rename(Path(), elsewhere) && QFile::link(elsewhere, Path()));
+    ASSERT_EQ(chmod(QFile::encodeName(elsewhere), 0660), 0);
+    for (const char* leftover : {".new", ".new.aBcDeF"}) ASSERT_TRUE(QFile::copy("/dev/null", elsewhere + leftover));
+
+    EXPECT_EQ(Record(4), 2);
+    EXPECT_EQ(QFile::symLinkTarget(Path()), elsewhere);
+    EXPECT_EQ(Bytes(), Slots(5, 4) + unused.repeated(18) + trailer);
+    struct stat status {};
+    ASSERT_EQ(stat(QFile::encodeName(elsewhere), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0660U);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("elsewhere.dat"));
+}
+
+// The n-th update puts n on top, so the table itself tells which one it is and what all of it must be.
+TEST_F(TopScoreFilesTest, KilledProcessLeavesTheOldOrTheNewTable) {
+    ASSERT_TRUE(QFile::copy("/dev/null", Path() + ".backup")) << "a copy of the player's own";
+    std::mt19937 random(1);
+    int best = 0;
+    for (int round = 0; round < 300; ++round) {
+        int recorded[2];
+        ASSERT_EQ(pipe(recorded), 0);
+        const pid_t child = fork();
+        for (int score = best + 1; child == 0; ++score)
+            if (Record(score) != 1 || write(recorded[1], "", 1) != 1) _exit(1);
+        char one = 0;
+        ASSERT_EQ(read(recorded[0], &one, 1), 1);
+        usleep(static_cast<useconds_t>(random() % 1000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        close(recorded[0]);
+        close(recorded[1]);
+
+        const int top = files.LoadTopScores(1)[0].Score;
+        ASSERT_GT(top, best);
+        best = top;
+        const int kept = std::min(best, 20);
+        ASSERT_EQ(Bytes().toHex(), (Slots(best, best - kept + 1) + unused.repeated(20 - kept) + trailer).toHex());
+        ASSERT_LE(Names().size(), 5) << "leftovers pile up";
+    }
+    Record(best + 1);
+    EXPECT_EQ(Names(), QStringList({"scores1.dat", "scores1.dat.backup"}));
+}
+
+}  // namespace

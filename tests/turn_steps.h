@@ -1,0 +1,54 @@
+#pragma once
+
+#include "tests/table_driver.h"
+
+// Turns told step by step: what is done, what it does outside the table and how the table looks then.
+
+// Roll button and lamps; the dice, and which of them are free or held, in capitals where they can be clicked; the open
+// boxes of each column; Undo, Redo and Next Player where they are to be had.
+inline std::string Look(const Game& game) {
+    const TableState& table = game.table;
+    constexpr std::array pictures{"up ", "on ", "off "};
+    std::string look = pictures[static_cast<std::size_t>(table.roll.picture)];
+    if (table.roll.enabled != (table.roll.picture == RollPicture::Up)) look += "but not so ";
+    look += std::to_string(table.lamps) + ' ';
+    for (int i = 0; i <= game.dice.LastDieIndex; ++i) look += std::to_string(game.dice.DiceValues[i]);
+    look += ' ';
+    for (const DieState& die : table.dice)
+        if (die.shown) look += die.held ? (die.enabled ? 'H' : 'h') : (die.enabled ? 'F' : 'f');
+    for (const ColumnCard& column : game.card.values) {
+        int open = 0;
+        for (std::size_t row = 0; row < rowCount; ++row) open += column.offered[row] && column.enabled[row];
+        look += ' ' + std::to_string(open);
+    }
+    return look + (table.undo ? " undo" : "") + (table.redo ? " redo" : "") + (table.nextPlayer ? " next" : "");
+}
+
+// One text, with the nine frames of a roll drawn together.
+inline std::string Shortened(const std::vector<std::string>& log) {
+    std::string text;
+    for (const std::string& entry : log) text += (text.empty() ? "" : ", ") + entry;
+    std::string frames = "sleep 60";
+    for (int frame = 1; frame < 9; ++frame) frames += ", sleep 60";
+    if (const std::size_t at = text.find(frames); at != text.npos) text.replace(at, frames.size(), "frames");
+    return text;
+}
+
+struct Step {
+    std::string_view events;  // after "not " one that the table must ignore
+    const char* log;
+    const char* look = nullptr;  // as it was
+};
+
+inline void Play(PlayedTable& t, const std::vector<Step>& steps) {
+    std::string look = Look(t.game);
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.events);
+        const bool ignored = step.events.starts_with("not ");
+        t.Do(ignored ? "state" : step.events);
+        EXPECT_FALSE(ignored && t.Takes(step.events.substr(4)));
+        if (step.look) look = step.look;
+        EXPECT_EQ(Shortened(t.table.log), step.log);
+        EXPECT_EQ(Look(t.game), look);
+    }
+}
