@@ -18,8 +18,8 @@ void TakeTips(Game& game) {
 
 void HideOfferedDownAndUp(Game& game) {
     const GameSession& session = game.session;
-    if (session.NextUpRow >= 0) ShowBoxButton(game, ScoreColumn::Up, session.NextUpRow, false);
-    if (session.NextDownRow < rowCount) ShowBoxButton(game, ScoreColumn::Down, session.NextDownRow, false);
+    if (IsRow(session.NextUpRow)) ShowBoxButton(game, ScoreColumn::Up, session.NextUpRow, false);
+    if (IsRow(session.NextDownRow)) ShowBoxButton(game, ScoreColumn::Down, session.NextDownRow, false);
 }
 
 void FreeDice(Game& game) {

@@ -101,7 +101,8 @@ struct ScoreRecord {
 class TopScores {
 public:
     virtual ~TopScores() = default;
-    // Puts the record below all scores that are not lower. Returns its place, 1 to 20, or -1 when it did not get in.
+    // Puts the record below all scores that are not lower. Returns its place, from 1, or -1 when it did not get in.
+    // The table has places 1 to 20; only a file that something else made longer has more.
     virtual int Record(int number, const ScoreRecord& record) = 0;
     virtual bool TopScoreFileExists(int number) = 0;
     virtual std::array<ScoreRecord, scoreRecords> LoadTopScores(int number) = 0;

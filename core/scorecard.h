@@ -21,6 +21,8 @@ enum ScoreRow : int {
     rowCount
 };
 
+constexpr bool IsRow(int row) { return row >= 0 && row < rowCount; }
+
 // None stands for "no box is concerned". The others count from 1, as they do in the two-player record and the hints.
 enum class ScoreColumn { None, Down, Up, Rand, Oblg };
 inline constexpr std::array allColumns{ScoreColumn::Down, ScoreColumn::Up, ScoreColumn::Rand, ScoreColumn::Oblg};

@@ -90,8 +90,8 @@ void StartTurn(Game& game) {
     for (int i = 0; i <= game.dice.LastDieIndex; ++i) EnableDie(game, i, true);
     OfferEmptyBoxes(game, ScoreColumn::Rand);
     if (!FourColumns(game.settings)) return;
-    if (session.NextDownRow < rowCount) ShowBoxButton(game, ScoreColumn::Down, session.NextDownRow, true);
-    if (session.NextUpRow >= 0) ShowBoxButton(game, ScoreColumn::Up, session.NextUpRow, true);
+    if (IsRow(session.NextDownRow)) ShowBoxButton(game, ScoreColumn::Down, session.NextDownRow, true);
+    if (IsRow(session.NextUpRow)) ShowBoxButton(game, ScoreColumn::Up, session.NextUpRow, true);
     OfferEmptyBoxes(game, ScoreColumn::Oblg);
 }
 

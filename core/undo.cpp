@@ -89,6 +89,8 @@ void TakeOutOfTotals(Game& game, ScoreColumn column, int points) {
 void TakeBoxOut(Game& game) {
     const ScoreColumn column = game.session.CurrentColumn;
     const int row = StepPointerBack(game.session);
+    // A roll ahead of the opening animation leaves boxes on offer out of their order, and the pointer astray.
+    if (!IsRow(row)) return;
     const int points = TextValue(game.card[column].boxes[row]);
     SetBoxText(game, column, row, "");
     if (row <= rowSixes) TakeOutOfUpperSection(game, column, points);
@@ -114,8 +116,8 @@ void OpenFreeColumns(Game& game) {
     const GameSession& session = game.session;
     if (session.AnnounceResume) return;
     if (FourColumns(game.settings)) {
-        if (session.NextDownRow < rowCount) OpenBox(game, ScoreColumn::Down, session.NextDownRow);
-        if (session.NextUpRow >= 0) OpenBox(game, ScoreColumn::Up, session.NextUpRow);
+        if (IsRow(session.NextDownRow)) OpenBox(game, ScoreColumn::Down, session.NextDownRow);
+        if (IsRow(session.NextUpRow)) OpenBox(game, ScoreColumn::Up, session.NextUpRow);
     }
     OpenEmptyBoxes(game, ScoreColumn::Rand);
 }

@@ -1,7 +1,8 @@
 #include "sound/background_music.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 #include "core/music.h"
@@ -14,9 +15,11 @@ std::string MusicFile(const Game& game, const char* name) { return ProgramFile(g
 
 // The leading decimal number of the text, halves rounded to even; 0 when there is none.
 int LeadingNumber(const std::string& text) {
-    const double number = std::nearbyint(std::strtod(text.c_str(), nullptr));
-    if (!(std::abs(number) <= std::numeric_limits<int>::max())) return 0;
-    return static_cast<int>(number);
+    double number = 0;
+    const char* first = text.data() + std::min(text.find_first_not_of(' '), text.size());
+    std::from_chars(first, text.data() + text.size(), number, std::chars_format::fixed);
+    number = std::nearbyint(number);
+    return std::abs(number) <= std::numeric_limits<int>::max() ? static_cast<int>(number) : 0;
 }
 
 }  // namespace

@@ -241,7 +241,6 @@ void StartTableAnimation(Game& game, State& state) {
     game.random.Reseed(game.clock.TimeOfDay());
     const auto kinds = FourColumns(game.settings) ? fourColumnFrames.size() : oneColumnFrames.size();
     state.AnimKind = static_cast<int>(game.random.Next() * static_cast<double>(kinds)) + 1;
-    state.columns = game.settings.NumberOfColumns;
     state.AnimIndex = 0;
     state.AnimStage = 0;
     if (FourColumns(game.settings) && state.AnimKind == 6) ShuffleBoxOrder(game, state);
@@ -260,10 +259,12 @@ void ShuffleBoxOrder(Game& game, State& state) {
 }
 
 void tmrAnimation_Timer(Game& game, State& state) {
-    // A change of the variant in between has laid out the whole table, and the pattern is not one for it.
-    if (state.columns != game.settings.NumberOfColumns) return End(game);
     const auto kind = static_cast<std::size_t>(state.AnimKind - 1);
-    if (FourColumns(game.settings))
+    const bool fourColumns = FourColumns(game.settings);
+    // A change of the variant hands a running pattern to the other layout, which may not have it or stand at no row.
+    const bool inBoth = kind < oneColumnFrames.size();
+    if (inBoth ? !IsRow(state.AnimIndex) : !fourColumns) return End(game);
+    if (fourColumns)
         fourColumnFrames[kind](game, state);
     else
         oneColumnFrames[kind](game, state);

@@ -8,7 +8,6 @@ inline constexpr int boxCount = 52;
 
 struct ColumnAnimationState {
     int AnimKind = 0;  // 1 to 9 with four columns, 1 to 4 with one
-    int columns = 0;   // for which the kind was drawn
     int AnimStage = 0;
     int AnimIndex = 0;                     // the running row or position
     std::array<int, boxCount> BoxOrder{};  // cell v: column v / 13 (0 Down), row v mod 13

@@ -2,6 +2,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <algorithm>
 
 QFont TableFont(bool bold, int pixels) {
     QFont font;
@@ -12,18 +13,23 @@ QFont TableFont(bool bold, int pixels) {
 }
 
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight) {
+    const QRect device = DeviceArea(painter, area);
+    const int width = std::max(1, static_cast<int>(painter.device()->devicePixelRatioF()));
+    painter.save();
+    UseDevicePixels(painter);
     if (bottomRight.isValid()) {
-        painter.fillRect(area.left(), area.bottom(), area.width(), 1, bottomRight);
-        painter.fillRect(area.right(), area.top(), 1, area.height(), bottomRight);
+        painter.fillRect(QRect(device.bottomLeft() - QPoint(0, width - 1), device.bottomRight()), bottomRight);
+        painter.fillRect(QRect(device.topRight() - QPoint(width - 1, 0), device.bottomRight()), bottomRight);
     }
     if (topLeft.isValid()) {
-        painter.fillRect(area.left(), area.top(), area.width(), 1, topLeft);
-        painter.fillRect(area.left(), area.top(), 1, area.height(), topLeft);
+        painter.fillRect(QRect(device.topLeft(), device.topRight() + QPoint(0, width - 1)), topLeft);
+        painter.fillRect(QRect(device.topLeft(), device.bottomLeft() + QPoint(width - 1, 0)), topLeft);
     }
+    painter.restore();
 }
 
-Shape::Shape(const QString& name, QWidget* parent, QColor fill, QColor frame)
-    : QWidget(parent), fill_(fill), frame_(frame) {
+Shape::Shape(const QString& name, QWidget* parent, QColor fill, QColor topLeftEdge, QColor bottomRightEdge)
+    : QWidget(parent), fill_(fill), topLeftEdge_(topLeftEdge), bottomRightEdge_(bottomRightEdge) {
     setObjectName(name);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
@@ -31,7 +37,7 @@ Shape::Shape(const QString& name, QWidget* parent, QColor fill, QColor frame)
 void Shape::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (fill_.isValid()) painter.fillRect(rect(), fill_);
-    PaintEdges(painter, rect(), frame_, frame_);
+    PaintEdges(painter, rect(), topLeftEdge_, bottomRightEdge_);
 }
 
 TextLabel::TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment)

@@ -35,19 +35,19 @@ inline constexpr QColor highlight{0xFF, 0xFF, 0xE1};
 // A font of the told families, or of those that stand for them, in device-independent pixels.
 QFont TableFont(bool bold, int pixels = 11);
 
-// The edge of an area, one pixel wide. An invalid colour paints nothing.
+// The edge of an area, about one pixel wide and everywhere of the same width. An invalid colour paints nothing.
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight);
 
-// A filled or framed area, or a line of one pixel. Takes no mouse.
+// A filled area with an edge; one that is nothing but a left or top edge is a line. Takes no mouse.
 class Shape final : public QWidget {
 public:
-    Shape(const QString& name, QWidget* parent, QColor fill, QColor frame = {});
+    Shape(const QString& name, QWidget* parent, QColor fill, QColor topLeftEdge = {}, QColor bottomRightEdge = {});
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QColor fill_, frame_;
+    QColor fill_, topLeftEdge_, bottomRightEdge_;
 };
 
 struct LabelLook {

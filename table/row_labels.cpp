@@ -25,10 +25,10 @@ void RowLabels::MakeRow(int row) {
     labels_[at] = new TextLabel(Index("lblOption", row), panel_, labelLook, Qt::AlignLeft);
     labels_[at]->setText(RowName(row));
     labels_[at]->setContentsMargins(5, 0, 2, 0);
-    labelFrames_[at] = new Shape(Index("shpOptions", row), panel_, {}, colour::rowFrame);
+    labelFrames_[at] = new Shape(Index("shpOptions", row), panel_, {}, colour::rowFrame, colour::rowFrame);
     tips_[at] = new TextLabel(Index("lblTip", row), panel_, tipLook, Qt::AlignHCenter);
     tips_[at]->setAccessibleDescription(QString("Hint for ") + RowName(row));
-    tipFrames_[at] = new Shape(Index("Shape12", row), panel_, {}, colour::rowFrame);
+    tipFrames_[at] = new Shape(Index("Shape12", row), panel_, {}, colour::rowFrame, colour::rowFrame);
     tips_[at]->setGeometry(RowArea(row, tipLeft, tipWidth));
     tipFrames_[at]->setGeometry(RowArea(row, tipLeft, tipWidth));
 }
@@ -38,7 +38,7 @@ void RowLabels::MakeSumRow(std::size_t i) {
     sums_[i] = new TextLabel(sumRows[i].label, panel_, sumLook, Qt::AlignRight);
     sums_[i]->setText(text);
     sums_[i]->setContentsMargins(2, 0, text.endsWith(' ') ? 2 : 5, 0);
-    sumFrames_[i] = new Shape(sumRows[i].frame, panel_, {}, colour::rowFrame);
+    sumFrames_[i] = new Shape(sumRows[i].frame, panel_, {}, colour::rowFrame, colour::rowFrame);
 }
 
 void RowLabels::SetFrameHeight(int columns) { panel_->setGeometry(Pixels(rowPanelPlace.In(columns))); }
