@@ -32,6 +32,7 @@ constexpr RoleColour disabledColours[] = {
 
 void PrepareLook() {
     QApplication::setStyle("Fusion");
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // the bar belongs to the window's picture
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 

@@ -42,14 +42,12 @@ def main():
                     results[name].append(values)
 
     print(f"{options.rounds} starts of each program, in turn, window {place[2]} x {place[3]}")
-    print(f"{'':22}{'median':>23}   {'least':>23}")
-    print((f"{'':22}" + 2 * f"{'game':>8}{'empty':>8}{'ratio':>7}   ").rstrip())
-    for index, what in enumerate(("first frame, ms", "resident (Rss), MB", "share (Pss), MB")):
-        line = f"{what:22}"
-        for summary in (statistics.median, min):
-            game, empty = (summary(values[index] for values in results[name]) for name in ("game", "empty"))
-            line += f"{game:8.1f}{empty:8.1f}{game / empty:7.2f}   "
-        print(line.rstrip())
+    print(f"{'':28}{'game':>8}{'empty':>8}{'ratio':>7}")
+    rows = (("first frame, ms, median", 0, statistics.median), ("first frame, ms, least", 0, min),
+            ("resident (Rss), MB, median", 1, statistics.median), ("share (Pss), MB, median", 2, statistics.median))
+    for what, index, summary in rows:
+        game, empty = (summary(values[index] for values in results[name]) for name in ("game", "empty"))
+        print(f"{what:28}{game:8.1f}{empty:8.1f}{game / empty:7.2f}")
 
 
 main()

@@ -6,21 +6,42 @@
 static void TakeResources() { Q_INIT_RESOURCE(art); }
 
 namespace {
-QPixmap Render(const QString& name, QSize size) {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
+QString KeyOf(const QString& name, QSize size) {
+    return QString("%1 %2x%3").arg(name).arg(size.width()).arg(size.height());
+}
+
+// An image and not a pixmap, which belongs to the thread of the windows.
+QImage Render(const QString& name, QSize size) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
     QSvgRenderer renderer(":/art/" + name + ".svg");
-    QPainter painter(&pixmap);
+    QPainter painter(&image);
     renderer.render(&painter, QRectF(QPointF(0, 0), size));
-    return pixmap;
+    return image;
 }
 }  // namespace
 
 Art::Art() { TakeResources(); }
 
+void Art::RenderAhead(std::vector<Wanted> pictures) {
+    ahead_ = std::async(std::launch::async, [pictures = std::move(pictures)] {
+        QHash<QString, QImage> images;
+        for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
+        return images;
+    });
+}
+
+void Art::TakeRenderedAhead() {
+    if (!ahead_.valid()) return;
+    const QHash<QString, QImage> images = ahead_.get();
+    for (auto image = images.begin(); image != images.end(); ++image)
+        rendered_[image.key()] = QPixmap::fromImage(image.value());
+}
+
 const QPixmap& Art::Picture(const QString& name, QSize devicePixels) {
-    QPixmap& picture = rendered_[QString("%1 %2x%3").arg(name).arg(devicePixels.width()).arg(devicePixels.height())];
-    if (picture.isNull()) picture = Render(name, devicePixels);
+    TakeRenderedAhead();
+    QPixmap& picture = rendered_[KeyOf(name, devicePixels)];
+    if (picture.isNull()) picture = QPixmap::fromImage(Render(name, devicePixels));
     return picture;
 }
 

@@ -4,12 +4,22 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
+#include <future>
+#include <vector>
 
 // The pictures of the game, drawn from the vector art inside the program. A picture is rendered when it is first
 // wanted at a size and kept.
 class Art {
 public:
+    struct Wanted {
+        QString name;
+        QSize devicePixels;
+    };
+
     Art();
+
+    // Begins to render pictures that will be wanted soon, beside what else there is to do. At most once.
+    void RenderAhead(std::vector<Wanted> pictures);
 
     // The picture with this name, such as "die_free_3", filling so many device pixels. The reference holds until the
     // next call.
@@ -23,7 +33,10 @@ public:
     QPixmap Scaled(const QString& name, QSize size, qreal devicePixelRatio);
 
 private:
+    void TakeRenderedAhead();
+
     QHash<QString, QPixmap> rendered_;
+    std::future<QHash<QString, QImage>> ahead_;
 };
 
 // The area in whole device pixels that a painter covers when it is told to fill this one.

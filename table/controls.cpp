@@ -45,7 +45,6 @@ TextLabel::TextLabel(const QString& name, QWidget* parent, const LabelLook& look
     setObjectName(name);
     setTextFormat(Qt::PlainText);
     setAlignment(alignment | Qt::AlignVCenter);
-    setFont(TableFont(true));
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -105,7 +104,6 @@ CaptionButton::CaptionButton(const QString& name, QWidget* parent) : QAbstractBu
     setAttribute(Qt::WA_Hover);
     setAttribute(Qt::WA_NoMousePropagation);
     setFocusPolicy(Qt::NoFocus);
-    setFont(TableFont(true));
 }
 
 void CaptionButton::SetCaption(const QString& caption) {

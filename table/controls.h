@@ -55,7 +55,7 @@ struct LabelLook {
     QColor topLeftEdge, bottomRightEdge;  // invalid: no edge
 };
 
-// A text on coloured ground. Takes no mouse.
+// A text on coloured ground, in the font of its parent. Takes no mouse.
 class TextLabel final : public QLabel {
 public:
     TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment);

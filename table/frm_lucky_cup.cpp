@@ -1,5 +1,6 @@
 #include "table/frm_lucky_cup.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -9,6 +10,7 @@
 #include "core/placement.h"
 #include "core/turn.h"
 #include "core/two_players.h"
+#include "table/first_pictures.h"
 #include "table/main_window.h"
 #include "table/pointers.h"
 
@@ -18,15 +20,6 @@ constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Q
                                         Qt::WindowCloseButtonHint;
 
 QString Text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-
-QWidget* NewTableArea(QWidget* window) {
-    auto* area = new QWidget(window);
-    QPalette palette = area->palette();
-    palette.setColor(QPalette::Window, colour::window);
-    area->setPalette(palette);
-    area->setAutoFillBackground(true);
-    return area;
-}
 
 // The code of a key of the table, 0 for every other.
 int KeyCode(const QKeyEvent& event) {
@@ -47,7 +40,7 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
     : QMainWindow(nullptr, fixedWindow),
       gate_(gate),
       art_(art),
-      table_(NewTableArea(this)),
+      table_(new TableArea(this, [this] { SetPointersAndIcon(); })),
       lines_(table_),
       labels_(table_),
       board_(table_, art_, BoardEvents()),
@@ -56,6 +49,7 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
       toolBar_(new ToolBar(table_, art_, Commands())),
       menuBar_(new MenuBar(this, art_, Commands())),
       statusBar_(new StatusBarWidget(table_)) {
+    art_.RenderAhead(FirstPictures(devicePixelRatioF()));
     setObjectName("frmLuckyCup");
     setMenuBar(menuBar_);
     setCentralWidget(table_);
@@ -66,12 +60,18 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
 
 void frmLuckyCup::Load(Game& game) {
     game_ = &game;
-    SetBasePointer(*this, QString::fromStdString(game.session.AppPath));
+    PlaceOnScreen();
+    Run(Form_Load);
+}
+
+void frmLuckyCup::SetPointersAndIcon() {
+    SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
     board_.SetPointer(hand);
     tray_.SetPointers(hand, cursor());
-    PlaceOnScreen();
-    Run(Form_Load);
+    QIcon icon;
+    for (int size : {16, 32, 48, 64, 128}) icon.addPixmap(art_.Scaled("icon", {size, size}, 1));
+    QApplication::setWindowIcon(icon);
 }
 
 void frmLuckyCup::PlaceOnScreen() {

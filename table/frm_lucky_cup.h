@@ -11,6 +11,7 @@
 #include "table/menu_bar.h"
 #include "table/row_labels.h"
 #include "table/status_bar_widget.h"
+#include "table/table_area.h"
 
 // The main window. It shows what it is told and hands what the user does to the game, through the gate. It holds no
 // rule.
@@ -80,13 +81,14 @@ private:
     DiceTray::Events TrayEvents();
     CommandRunner Commands();
     void PlaceOnScreen();
+    void SetPointersAndIcon();
     GlyphColumns& Counter(CounterPicture picture) { return counters_[static_cast<std::size_t>(picture)]; }
 
     EventGate& gate_;
     Game* game_ = nullptr;
     Art& art_;
     std::array<GlyphColumns, 7> counters_;
-    QWidget* table_;  // the area below the menu bar
+    TableArea* table_;  // below the menu bar
     FrameLines lines_;
     RowLabels labels_;
     Board board_;

@@ -12,10 +12,10 @@ constexpr int inset = 4;
 
 StatusBarWidget::StatusBarWidget(QWidget* parent) : QWidget(parent) {
     setObjectName("StatusBar1");
+    setFont(TableFont(false));
     for (int k = 1; k <= 5; ++k) {
         At(k).label = new QLabel(this);
         At(k).label->setObjectName(QString("StatusBar1_%1").arg(k));
-        At(k).label->setFont(TableFont(false));
         At(k).label->setTextFormat(Qt::PlainText);
         At(k).label->hide();
     }

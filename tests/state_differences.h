@@ -6,6 +6,11 @@
 #include "script/json_line.h"
 #include "tests/table_driver.h"
 
+// The eight variants.
+inline GameSettings Variant(unsigned long n) {
+    return {.NumberOfDice = n & 1 ? 4 : 5, .NumberOfPlayers = n & 2 ? 2 : 1, .NumberOfColumns = n & 4 ? 1 : 4};
+}
+
 // The log as one text with ';' after each entry.
 inline std::string LogOf(const PlayedTable& played) {
     std::string text;
@@ -32,4 +37,25 @@ inline std::string Differences(const QJsonObject& one, const QJsonObject& other,
             value.isObject() ? Differences(value.toObject(), other[key].toObject(), allowed, name + '.') : name + ' ';
     }
     return names;
+}
+
+// What one event does after others.
+struct EventCase {
+    const char* before;
+    std::string event;
+    std::deque<HeadlessAnswer> answers;
+    std::string log;
+    const char* differences;  // null: many
+};
+
+inline void Check(const EventCase& c) {
+    SCOPED_TRACE(std::string(c.before) + " > " + c.event);
+    PlayedTable played;
+    played.Do(c.before);
+    const QJsonObject before = StateOf(played);
+    played.table.dialogs.answers = c.answers;
+    played.Do(c.event);
+    EXPECT_EQ(LogOf(played), c.log);
+    const std::string differences = Differences(before, StateOf(played));
+    EXPECT_EQ(differences, c.differences != nullptr ? c.differences : differences);
 }
