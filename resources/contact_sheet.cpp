@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <cstdio>
 
 #include "table/art.h"
@@ -77,6 +78,7 @@ int main(int argc, char* argv[]) {
     Art art;
     QStringList names;
     for (const QString& file : QDir(":/art").entryList({"*.svg"}, QDir::Files, QDir::Name)) names << file.chopped(4);
+    std::ranges::stable_sort(names, {}, [](const QString& name) { return CellSize(name).height(); });
 
     QImage sheet(sheetWidth, LayOutSheet(art, names, nullptr), QImage::Format_RGB32);
     sheet.fill(Qt::white);

@@ -53,7 +53,6 @@ TEST(Announce, ReminderStopsTheSecondRoll) {
     Play(t, {{"roll 1 2 3 4 6", "effect rollAll, frames", "up 1 12346 FFFFF 0 0 0 2 =0"},
              {"roll", reminder, "off 1 12346 FFFFF 0 0 0 2 =0"},
              {"not roll", ""},
-             {"not key enter", ""},
              {"die 0", "effect holdDice", "off 1 12346 HFFFF 0 0 0 2 =0"},
              {"die 0", "effect UnHoldDice", "up 1 12346 FFFFF 0 0 0 2 =0"},
              {"key enter", reminder, "off 1 12346 FFFFF 0 0 0 2 =0"},

@@ -1,4 +1,3 @@
-#include "table/score_counter.h"
 #include "tests/turn_steps.h"
 
 namespace {

@@ -99,7 +99,6 @@ TEST(Hints, RowUnderTheMouseIsLitUntilItsBoxIsWritten) {
           {"sounds off;roll;hover 3 5", "frames", "hidden lit 5"},
           {"hover 2 12", ""},
           {"leave 3 5", "", "hidden "},
-          {"leave 2 12", ""},
           {"hover 2 12", "", "hidden lit 12"},
           {"box 2 12", "refresh 0@75", "hidden "},
           {"roll;hover 4 3", "frames", "hidden lit 3"},

@@ -22,8 +22,7 @@ bool IsOpen(const Game& game, ScoreColumn column, int row, int written) {
 // Checks all totals as they follow from the boxes alone, and what is open. Returns the points of the upper rows.
 ByColumn<int> CheckBoard(const Game& game) {
     ByColumn<int> upper;
-    int boxes = 0;
-    int total = 0;
+    int boxes = 0, total = 0;
     for (ScoreColumn name : allColumns) {
         const ColumnCard& column = game.card[name];
         const auto value = [&](int row) { return TextValue(column.boxes[row]); };
