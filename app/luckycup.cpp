@@ -11,6 +11,7 @@
 #include "sound/background_music.h"
 #include "store/settings_store.h"
 #include "store/top_score_files.h"
+#include "table/first_pictures.h"
 #include "table/frm_lucky_cup.h"
 #include "table/qt_timers.h"
 #include "table/table_parts.h"
@@ -30,7 +31,7 @@ std::string ProgramFolder() {
 
 // All that stands behind one table, each made before what it is handed to.
 struct Program {
-    explicit Program(const std::string& programFolder) : scores(programFolder) {
+    Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
         game.session.AppPath = programFolder;
         game.settings = store.LoadSettings();
         timers.SetTick([this](Timer timer) { Tick(timer); });
@@ -47,8 +48,8 @@ struct Program {
         }
     }
 
+    Art& art;
     EventGate gate;
-    Art art;
     frmLuckyCup window{gate, art};
     QtTimers timers{gate};
     QtClock clock;
@@ -71,7 +72,9 @@ int Main(QApplication& app) {
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;
     }
-    Program program(ProgramFolder());
+    Art art;
+    art.RenderAhead(FirstPictures(app.devicePixelRatio()));
+    Program program(ProgramFolder(), art);
     program.window.Load(program.game);
     program.window.show();
     return app.exec();

@@ -10,7 +10,6 @@
 #include "core/placement.h"
 #include "core/turn.h"
 #include "core/two_players.h"
-#include "table/first_pictures.h"
 #include "table/main_window.h"
 #include "table/pointers.h"
 
@@ -49,7 +48,6 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
       toolBar_(new ToolBar(table_, art_, Commands())),
       menuBar_(new MenuBar(this, art_, Commands())),
       statusBar_(new StatusBarWidget(table_)) {
-    art_.RenderAhead(FirstPictures(devicePixelRatioF()));
     setObjectName("frmLuckyCup");
     setMenuBar(menuBar_);
     setCentralWidget(table_);

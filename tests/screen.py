@@ -36,9 +36,10 @@ class Screen:
             number = answer.readline().strip()
         if not number:
             raise RuntimeError("Xvfb did not start")
-        self._environment = {**os.environ, "DISPLAY": ":" + number, "QT_QPA_PLATFORM": "xcb"}
-        # Nothing of the desktop that the test may have been started from.
-        for name in ("WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "QT_SCALE_FACTOR"):
+        # Nothing of the desktop that this may have been started from, nor a message bus launched for the purpose.
+        self._environment = {**os.environ, "DISPLAY": ":" + number, "QT_QPA_PLATFORM": "xcb",
+                             "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+        for name in ("WAYLAND_DISPLAY", "QT_SCALE_FACTOR"):
             self._environment.pop(name, None)
         with open(pathlib.Path(self._folder.name, "Xvfb_screen0"), "rb") as file:
             self._buffer = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
