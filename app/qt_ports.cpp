@@ -19,7 +19,11 @@ double QtClock::TimeOfDay() {
 }
 
 std::string QtClock::ShortDate() {
-    return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+    const QLocale locale = QLocale::system();
+    const QDate today = QDate::currentDate();
+    // Where no language is set up there is no short date either: what Qt offers does not fit a score record.
+    if (locale.language() == QLocale::C) return today.toString(Qt::ISODate).toStdString();
+    return locale.toString(today, QLocale::ShortFormat).toStdString();
 }
 
 void SeededRandom::Reseed(double timeOfDay) {

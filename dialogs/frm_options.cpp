@@ -78,6 +78,7 @@ QWidget* frmOptions::MakePage() {
 QGroupBox* frmOptions::MakeGeneral() {
     auto* checks = new QVBoxLayout;
     for (QCheckBox* check : {chkShowStatusBar_, chkQuitGame_, chkConfirmExit_}) checks->addWidget(check);
+    checks->addStretch();
     auto* group = Named<QGroupBox>("Frame4", " General Options ");
     auto* row = new QHBoxLayout(group);
     row->addLayout(checks, 1);

@@ -38,6 +38,7 @@ QLabel* frmTheWinerIs::AddLabel(const char* name, const QRect& area, int fontPix
     label->setObjectName(name);
     label->setGeometry(area);
     label->setFont(TableFont(true, fontPixels));
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setTextFormat(Qt::PlainText);
     label->setText(FittedText(text, label->font(), area.width()));
     label->setAccessibleName(QString::fromStdString(text));

@@ -25,6 +25,8 @@ PictureButton::Looks WideHotLooks(int row) { return {Index("row_hot", row), {}, 
 BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, Hover hover)
     : PictureButton(name, parent, art, NarrowLooks()), hover_(std::move(hover)) {
     setMouseTracking(true);
+    setEnabled(false);
+    hide();
 }
 
 void BoxButton::TellHover(bool on) {

@@ -5,7 +5,7 @@
 #include "table/controls.h"
 #include "table/layout.h"
 
-// A button over an open box. It tells when the mouse comes onto it while it can be clicked, and when it leaves again.
+// A button over an open box; hidden and disabled at first. It tells when the mouse comes onto it while it can be clicked, and when it leaves again.
 class BoxButton final : public PictureButton {
 public:
     using Hover = std::function<void(bool onButton)>;

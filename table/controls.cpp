@@ -2,6 +2,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QTextOption>
 #include <algorithm>
 
 QFont TableFont(bool bold, int pixels) {
@@ -119,7 +120,11 @@ void CaptionButton::paintEvent(QPaintEvent*) {
     option.initFrom(this);
     option.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    const QRect area = rect().adjusted(6, 4, -6, -4);
+    const int lines = area.height() / fontMetrics().lineSpacing();
+    const int room = area.width() * std::max(1, lines - 2);  // a broken line is never quite full
+    QTextOption wrapped(Qt::AlignCenter);
+    wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     painter.setPen(palette().color(QPalette::ButtonText));
-    painter.drawText(rect().adjusted(6, 4, -6, -4), Qt::AlignCenter | Qt::TextWrapAnywhere | Qt::TextWordWrap,
-                     caption_);
+    painter.drawText(area, fontMetrics().elidedText(caption_, Qt::ElideMiddle, room), wrapped);
 }

@@ -6,6 +6,7 @@ namespace {
 QString Index(const char* array, int i) { return QString("%1_%2").arg(array).arg(i); }
 
 PictureButton::Looks FreeLooks(int face) { return {Index("die_free", face), {}, {}}; }
+PictureButton::Looks RollingLooks(int face) { return {Index("die_roll", face), {}, {}}; }
 PictureButton::Looks HeldLooks(int face) { return {Index("die_held", face), {}, {}}; }
 
 QString Said(int i, int face, const char* state) {
@@ -54,8 +55,9 @@ void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
     die.frame = new Shape(dieFrameNames[static_cast<std::size_t>(i)], table, colour::trayEdge);
     die.free = new PictureButton(Index("picDice", i), table, art, {});
     die.held = new PictureButton(Index("PicDiceOff", i), table, art, {});
-    die.held->hide();
+    ShowFree(i);
     ShowFace(i, i + 1);
+    EnableDie(i, false);
     QObject::connect(die.free, &QAbstractButton::clicked, [hold = events.hold, i] { hold(i); });
     QObject::connect(die.held, &QAbstractButton::clicked, [release = events.release, i] { release(i); });
 }
@@ -106,13 +108,13 @@ void DiceTray::SetPointers(const QCursor& hand, const QCursor& base) {
 void DiceTray::SetRollPicture(RollPicture kind) { roll_->SetLooks(RollLooks(kind)); }
 
 void DiceTray::ShowFace(int i, int face) {
-    ShowFreeFace(i, face);
+    At(i).free->SetLooks(FreeLooks(face));
     At(i).held->SetLooks(HeldLooks(face));
     At(i).free->setAccessibleName(Said(i, face, "free"));
     At(i).held->setAccessibleName(Said(i, face, "held"));
 }
 
-void DiceTray::ShowFreeFace(int i, int face) { At(i).free->SetLooks(FreeLooks(face)); }
+void DiceTray::ShowRollingFace(int i, int face) { At(i).free->SetLooks(RollingLooks(face)); }
 
 void DiceTray::ShowFree(int i) {
     At(i).free->show();

@@ -36,7 +36,7 @@ public:
     void SetRollEnabled(bool on) { roll_->setEnabled(on); }
     void SetRollVisible(bool on) { roll_->setVisible(on); }
     void ShowFace(int i, int face);
-    void ShowFreeFace(int i, int face);
+    void ShowRollingFace(int i, int face);  // 2 to 6
     void ShowFree(int i);
     void ShowHeld(int i);
     void Hide(int i);

@@ -27,7 +27,7 @@ public:
     void SetRollEnabled(bool on) override { tray_.SetRollEnabled(on); }
     void SetRollVisible(bool on) override { tray_.SetRollVisible(on); }
     void ShowDieFace(int i, int face) override { tray_.ShowFace(i, face); }
-    void ShowRollingFace(int i, int k) override { tray_.ShowFreeFace(i, k + 1); }
+    void ShowRollingFace(int i, int k) override { tray_.ShowRollingFace(i, k + 1); }
     void ShowDieFree(int i) override { tray_.ShowFree(i); }
     void ShowDieHeld(int i) override { tray_.ShowHeld(i); }
     void HideDie(int i) override { tray_.Hide(i); }

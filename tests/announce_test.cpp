@@ -22,7 +22,7 @@ TEST(Announce, IsBoundToItsBoxWhenTheSecondRollIsTakenBack) {
     PlayedTable t(fiveDice);
     Play(t, {{"roll 6 6 2 3 4;box 4 1", "effect rollAll, frames, effect announce", "up 1 66234 FFFFF 0 0 0 1 =0 undo"},
              {"roll 2 2 2 2 2", "effect rollAll, frames", "up 2 22222 FFFFF 0 0 0 1 =0"},
-             {"die 4", "effect holdDice", "up 2 22222 FFFFH 0 0 0 1 =0"},
+             {"die 4;sounds off;die 3;die 3;sounds on", "effect holdDice", "up 2 22222 FFFFH 0 0 0 1 =0"},
              {"box 4 1", "effect-wait score", "up 0 22222 fffff 0 0 0 0 =10 undo"},
              {"undo", "effect undo, refresh ", "up 2 22222 FFFFH 0 0 0 1 =0 redo"},
              {"box 4 1", "effect-wait score", "up 0 22222 fffff 0 0 0 0 =10 undo"},

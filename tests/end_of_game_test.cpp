@@ -31,8 +31,9 @@ const LastBox lastBoxes[] = {
 
 // A game before the last box of each player, all others of which are written from rolls of sixes.
 struct EndingGame : PlayedTable {
-    EndingGame(int number, const LastBox& box, bool music = false)
-        : PlayedTable({.NumberOfPlayers = number, .NumberOfColumns = box.columns, .BGMusicEnabled = music}), last(box) {
+    EndingGame(int number, const LastBox& box, bool withMusic)
+        : PlayedTable({.NumberOfPlayers = number, .NumberOfColumns = box.columns, .BGMusicEnabled = withMusic}),
+          last(box) {
         table.scores.Keep(std::make_unique<TopScoresOf>([this] { return record(); }));
         for (int turn = number * (BoardSize(game.settings) - 1); turn > 0; --turn) {
             Roll(sixes);
@@ -66,7 +67,7 @@ struct EndingGame : PlayedTable {
                (shown.redo ? "redo " : "") + (session.GameInProgress ? "progress " : "") +
                (session.GameOverShown ? "over " : "") + (session.EndGameSeen ? "seen " : "") +
                (shown[Timer::tmrCounter].enabled ? "counter " : "") +
-               (shown[Timer::tmrGameOver].enabled ? "message " : "");
+               (shown[Timer::tmrGameOver].enabled ? "message " : "") + (shown[Timer::Timer4].enabled ? "intro " : "");
     }
 
     std::string Expected() const {
@@ -78,36 +79,45 @@ struct EndingGame : PlayedTable {
         if (undone)
             return log + "dialog frmEndGame|undo;effect undo;box dice roll progress seen " + (counts ? "counter " : "");
         if (asked) log += "dialog frmEndGame|finish;";
+        if (music) log += "media close myMP3;";
         log += (last.columns == 4 ? "record 1|" : "record 3|") + std::to_string(game.session.Total) +
                (second ? "|Player 2|" : "|Player 1|") + std::to_string(place) + ';';
         if (!two || place > 0)
             log += "media close song;media open \"" + game.session.AppPath + "LCWAVS/GameOver" +
                    (place > 0 ? '2' : '1') + ".mp3\" alias song;media play song;dialog frmScores2;";
         const std::string seen = asked ? "seen " : "", counter = asked ? "counter " : "";
-        if (!two) return log + "off progress over " + seen + (last.columns == 1 ? counter : "") + "message ";
+        const std::string message = music ? "message intro " : "message ";
+        if (!two) return log + "off progress over " + seen + (last.columns == 1 ? counter : "") + message;
         if (!second)
             return log + "roll next " + (oblg && asked ? "undo " : "") + "seen " + (oblg ? "counter " : counter);
         log += game.session.FinalScore1 == game.session.Total ? "effect draw;" : "effect applause;";
-        return log + "dialog frmTheWinerIs;roll off board progress over seen " + counter + "message ";
+        return log + "dialog frmTheWinerIs;roll off board progress over seen " + counter + message;
     }
 
     const LastBox last;
-    const bool two = TwoPlayers(game.settings), oblg = last.event.starts_with("box 4");
+    const bool two = TwoPlayers(game.settings), music = game.settings.BGMusicEnabled, oblg = last.event[4] == '4';
     int rolls = 3, place = 1;
     bool second = false;  // the player on move
     bool scores = true;   // the last box is worth something
     bool undone = false;  // the player takes it back when asked
-    std::function<int()> record = [this] { return place; };
+    std::function<int()> record = [this] {
+        EXPECT_TRUE(game.table.Panel(2).text == " " && !game.session.GameInProgress);
+        EXPECT_FALSE(game.table[Timer::Timer3].enabled);
+        return place;
+    };
 };
 
 TEST(EndOfGame, EachPathWithEachKindOfLastBox) {
+    const std::string text = std::string(50, ' ') + "G a m e  O v e r !" + std::string(28, ' ') +
+                             "To begin a new game click the 'New Game' button or press F2";
     for (const LastBox& box : lastBoxes)
         for (int variant = 0; variant < 40; ++variant) {
             SCOPED_TRACE(box.event + " variant " + std::to_string(variant));
-            EndingGame ending(variant % 2 + 1, box);
-            ending.scores = variant / 2 % 2 == 0;
+            EndingGame ending(variant % 2 + 1, box, variant / 2 % 2 == 0);
+            ending.scores = (variant / 2 + variant / 8) % 2 == 0;
             ending.place = variant / 4 % 2 == 0 ? 20 : -1;
             ending.rolls = std::array{1, 2, 3, 1, 2}[variant / 8];
+            const GameSession& session = ending.game.session;
             for (int player = 0; player <= ending.two; ++player) {
                 ending.second = player == 1;
                 ending.undone = variant / 8 >= 3;
@@ -119,33 +129,20 @@ TEST(EndOfGame, EachPathWithEachKindOfLastBox) {
                     ending.Do(box.event);
                     EXPECT_EQ(ending.Outcome(), ending.Expected());
                 }
-                const GameSession& session = ending.game.session;
                 EXPECT_TRUE(!ending.two || session.Total == (player == 0 ? session.FinalScore1 : session.FinalScore2));
                 ending.scores = !ending.scores;
                 ending.Takes("tick tmrCounter");
             }
+            EXPECT_EQ(session.GameOverText, text);
+            EXPECT_TRUE(ending.game.table.Panel(2).text.empty() && ending.game.table[Timer::tmrGameOver].interval == 1);
         }
-}
-
-TEST(EndOfGame, StepsOfGameOver) {
-    EndingGame ending(1, lastBoxes[2], true);
-    const TableState& shown = ending.game.table;
-    ending.record = [&] {
-        EXPECT_TRUE(shown.Panel(2).text == " " && !ending.game.session.GameInProgress && !shown[Timer::Timer3].enabled);
-        return 1;
-    };
-    ending.Finish();
-    EXPECT_NE(ending.Outcome().find("effect counter0;media close myMP3;record 1|"), std::string::npos);
-    EXPECT_TRUE(shown.Panel(2).text.empty() && shown[Timer::Timer4].enabled && shown[Timer::tmrGameOver].interval == 1);
-    EXPECT_EQ(ending.game.session.GameOverText, std::string(50, ' ') + "G a m e  O v e r !" + std::string(28, ' ') +
-                                                    "To begin a new game click the 'New Game' button or press F2");
 }
 
 TEST(EndOfGame, FailingScoreFileLetsNewGameWorkAtOnce) {
     const std::string told = "message Open scores|53File not foundCannot open x.dat|information|ok;";
     const std::string failed = "effect-wait score;effect counter7;effect counter0;record-failed 1;";
     for (const int code : {53, 70}) {
-        EndingGame ending(2, lastBoxes[0]);
+        EndingGame ending(2, lastBoxes[0], false);
         ending.record = [&]() -> int { throw ScoreFileError(code, "File not found", "x.dat"); };
         for (const char* on : {"roll next progress seen ", "roll progress seen "}) {
             ending.Finish();

@@ -24,14 +24,6 @@ void PlayAtRandom(PlayedTable& played, std::mt19937& random, unsigned long event
     if (!played.game.session.GameInProgress) played.Do("next");
 }
 
-// The next game, through the Options where its variant is another, with its table built up.
-std::string NextGame(const GameSettings& now, const GameSettings& next) {
-    const std::string options = "options NumberOfDice=" + std::to_string(next.NumberOfDice) +
-                                " NumberOfPlayers=" + std::to_string(next.NumberOfPlayers) +
-                                " NumberOfColumns=" + std::to_string(next.NumberOfColumns);
-    return (now == next ? "new" : options) + ";tick tmrAnimation 99;tick tmrRollDice 2";
-}
-
 TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
     for (unsigned long seed = 0; seed < 160; ++seed) {
         SCOPED_TRACE(seed);
@@ -39,7 +31,10 @@ TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
         const GameSettings settings = Variant(seed), next = Variant(seed / 8 % 2 == 0 ? seed : random());
         PlayedTable played(settings), fresh(next);
         PlayAtRandom(played, random, random() % 3000);
-        played.Do(NextGame(settings, next));
+        const std::string options = "options NumberOfDice=" + std::to_string(next.NumberOfDice) +
+                                    " NumberOfPlayers=" + std::to_string(next.NumberOfPlayers) +
+                                    " NumberOfColumns=" + std::to_string(next.NumberOfColumns);
+        played.Do((settings == next ? "new" : options) + ";tick tmrAnimation 99;tick tmrRollDice 2");
         std::string allowed = leftAlone;
         if (next.NumberOfPlayers == 2) allowed += "panels ";  // the hidden instruction
         if (settings != next) allowed += "showBoard.caption ";
@@ -58,44 +53,37 @@ TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
     }
 }
 
-const std::string closed = "media close song;media close Intro;", reset = "effect newGame;" + closed;
-const std::string quit = "message Confirm|Quit this Game?|question|";
-const std::string start =
-    "message Start a New Game?|Click OK to start a new game or click Cancel to discard changes and "
-    "return to current game.|question|";
-const std::string ok = "dialog frmOptions|ok;";
-using enum HeadlessAnswer;
+const std::string closed = "media close song;media close Intro;", quit = "message Confirm|Quit this Game?|question|";
 
-TEST(NewGame, QuestionsAndSoundsAndWhatACancelLeaves) {
-    const EventCase cases[] = {
-        {"state", "new", {Cancel}, closed, ""},
-        {"roll;box 3 6;tick tmrCounter", "new", {Ok}, quit + "ok;" + reset, nullptr},
-        {"roll;box 3 6;tick tmrCounter", "new", {Cancel}, quit + "cancel;", ""},
-        {"options ConfirmQuitGame=False;roll", "new", {Cancel}, reset, nullptr},
-        {"sounds off;roll", "new", {Ok}, quit + "ok;" + closed, nullptr},
-        {"options;roll", "options NumberOfDice=4", {Ok, Ok}, ok + start + "ok;" + reset, nullptr},
-        {"options;roll",
-         "options NumberOfDice=4",
-         {Ok, Cancel},
-         ok + start + "cancel;",
-         "session.NewGameAnswer "},
-        {"options;roll",
-         "options NumberOfColumns=1 NumberOfPlayers=2 Player1=Ann",
-         {Ok, Cancel},
-         ok + start + "cancel;",
-         "panels session.NewGameAnswer settings.Player1 showBoard.caption title "},
-        {"options;roll", "options ShowStatusBar=False", {Ok}, ok, "height panels settings.ShowStatusBar statusBar "},
-        {"options", "options NumberOfDice=4", {Ok}, ok, "dice.LastDieIndex dice.shown settings.NumberOfDice title "},
-        {"roll;options NumberOfDice=4;tick tmrAnimation 99;roll", "new", {Cancel}, quit + "cancel;", ""},
-    };
-    for (const EventCase& c : cases) Check(c);
+TEST(NewGame, Question) {
+    using enum HeadlessAnswer;
+    const std::string start =
+        "dialog frmOptions|ok;message Start a New Game?|Click OK to start a new game or click Cancel to discard "
+        "changes "
+        "and return to current game.|question|";
+    ExpectEvent("state", "new", closed, "");
+    ExpectEvent("roll", "new", quit + "cancel;", "", {Cancel});
+    ExpectEvent("options;roll", "options NumberOfDice=4", start + "cancel;", "session.NewGameAnswer ", {Ok, Cancel});
+    ExpectEvent("options;roll", "options NumberOfColumns=1 NumberOfPlayers=2 Player1=Ann", start + "cancel;",
+                "panels session.NewGameAnswer settings.Player1 showBoard.caption title ", {Ok, Cancel});
+    ExpectEvent("options", "options NumberOfDice=4", "dialog frmOptions|ok;",
+                "dice.LastDieIndex dice.shown settings.NumberOfDice title ");
+    ExpectEvent("roll;options NumberOfDice=4;tick tmrAnimation 99;roll", "new", quit + "cancel;", "", {Cancel});
+    for (const auto& [before, event, asked] : {std::array<std::string, 3>{"roll", "new", quit + "ok;"},
+                                               {"options ConfirmQuitGame=False;roll", "new", ""},
+                                               {"roll", "options NumberOfDice=4", start + "ok;"}}) {
+        PlayedTable played;
+        played.Do(before);
+        played.Do(event);
+        EXPECT_EQ(LogOf(played), asked + "effect newGame;" + closed);
+    }
 }
 
 TEST(NewGame, AfterTheEndAsksNothing) {
-    PlayedTable over({.NumberOfPlayers = 2, .NumberOfColumns = 1, .BGMusicEnabled = true});
+    PlayedTable over({.NumberOfPlayers = 2, .NumberOfColumns = 1, .SoundEnabled = false, .BGMusicEnabled = true});
     over.PlayGame(1, [](const std::string&) {});
     over.Do("tick tmrGameOver 3;new");
-    EXPECT_EQ(LogOf(over), reset);
+    EXPECT_EQ(LogOf(over), closed);
     EXPECT_FALSE(over.game.table[Timer::tmrGameOver].enabled || over.game.table[Timer::Timer4].enabled);
     EXPECT_TRUE(over.game.table[Timer::Timer3].enabled);
 }

@@ -39,23 +39,14 @@ inline std::string Differences(const QJsonObject& one, const QJsonObject& other,
     return names;
 }
 
-// What one event does after others.
-struct EventCase {
-    const char* before;
-    std::string event;
-    std::deque<HeadlessAnswer> answers;
-    std::string log;
-    const char* differences;  // null: many
-};
-
-inline void Check(const EventCase& c) {
-    SCOPED_TRACE(std::string(c.before) + " > " + c.event);
+// What one event does on a table of its own, after others.
+inline void ExpectEvent(const std::string& before, const std::string& event, const std::string& log,
+                        const std::string& differences, const std::deque<HeadlessAnswer>& answers = {}) {
     PlayedTable played;
-    played.Do(c.before);
-    const QJsonObject before = StateOf(played);
-    played.table.dialogs.answers = c.answers;
-    played.Do(c.event);
-    EXPECT_EQ(LogOf(played), c.log);
-    const std::string differences = Differences(before, StateOf(played));
-    EXPECT_EQ(differences, c.differences != nullptr ? c.differences : differences);
+    played.Do(before);
+    const QJsonObject state = StateOf(played);
+    played.table.dialogs.answers = answers;
+    played.Do(event);
+    EXPECT_EQ(LogOf(played), log) << before << " > " << event;
+    EXPECT_EQ(Differences(state, StateOf(played)), differences) << before << " > " << event;
 }

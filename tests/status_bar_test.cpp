@@ -35,12 +35,12 @@ TEST(StatusBar, LayoutAndHeightByVariant) {
     // With the bar wanted and not, in one column and in four, for one player and for two.
     constexpr std::array heights{8270, 8030, 8530, 8300, 8300, 8300, 8530, 8530};
     for (std::size_t i = 0; i < heights.size(); ++i) {
-        const int players = i < 4 ? 1 : 2;
-        PlayedTable t({.NumberOfPlayers = players, .NumberOfColumns = i / 2 % 2 ? 4 : 1, .ShowStatusBar = i % 2 == 0});
+        PlayedTable t({.NumberOfColumns = i / 2 % 2 ? 4 : 1, .ShowStatusBar = i % 2 == 0});
+        if (i >= 4) t.Do("options NumberOfPlayers=2");
         const TableState& table = t.game.table;
         EXPECT_EQ(table.height, heights[i]);
-        EXPECT_EQ(table.statusBar, i % 2 == 0 || players == 2);
-        const std::array<int, 4> widths = players == 1 ? std::array{1, 2550, 1, 1230} : std::array{2000, 1, 1630, 1};
+        EXPECT_EQ(table.statusBar, i % 2 == 0 || i >= 4);
+        const std::array<int, 4> widths = i < 4 ? std::array{1, 2550, 1, 1230} : std::array{2000, 1, 1630, 1};
         for (std::size_t k = 0; k < widths.size(); ++k)
             EXPECT_TRUE(table.panels[k].width == widths[k] && table.panels[k].visible == (widths[k] > 1)) << k;
     }

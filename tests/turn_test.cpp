@@ -11,7 +11,8 @@ TEST(Turn, OfThreeRolls) {
              {"roll 1 2 3 4 6 6 3 2", "effect rollAll, frames", "up 1 12346 FFFFF 1 1 13 13 =0"},
              {"die 0;die 4", "effect holdDice, effect holdDice", "up 1 12346 HFFFH 1 1 13 13 =0"},
              {"key enter", "effect rollSome, frames", "up 2 16326 HFFFH 1 1 13 0 =0"},
-             {"sounds off;die 1;die 2;die 3;sounds on", "", "off 2 16326 HHHHH 1 1 13 0 =0"},
+             {"die 1;die 2", "effect holdDice, effect holdDice", "up 2 16326 HHHFH 1 1 13 0 =0"},
+             {"die 3", "effect holdDice", "off 2 16326 HHHHH 1 1 13 0 =0"},
              {"not roll", ""},
              {"not key enter", ""},
              {"die 2", "effect UnHoldDice", "up 2 16326 HHFHH 1 1 13 0 =0"},
@@ -45,11 +46,9 @@ TEST(Turn, EnterHandsOverOnlyWhenTheCounterHasRun) {
              {"box 3 1", "effect-wait score", "up 0 22336 fffff 0 0 0 0 =4 undo next"},
              {"not key enter", ""},
              {"next 2 3 4 5 5", "refresh 1@75, effect rollAll, frames", "up 1 23455 FFFFF 1 1 12 13 =1"},
-             {"box 3 12", "effect scoreZero", "up 0 23455 fffff 0 0 0 0 =1 undo next"},
-             {"roll 1 1 1 1 1 6 6 6 6 6", "refresh , effect rollAll, frames, effect LuckyCup",
-              "up 1 11111 FFFFF 1 1 12 13 =4"},
-             {"box 1 0", "effect-wait score", "up 0 11111 fffff 0 0 0 0 =9 undo next"},
-             {"key enter", "refresh 1@75, effect rollAll, frames, effect LuckyCup", "up 1 66666 FFFFF 1 1 11 13 =1"}});
+             {"box 3 4", "effect-wait score", "up 0 23455 fffff 0 0 0 0 =11 undo next"},
+             {"not key enter", ""},
+             {"roll 1 1 1 1 1", "refresh , effect rollAll, frames, effect LuckyCup", "up 1 11111 FFFFF 1 1 12 13 =4"}});
 }
 
 // The rolling pictures of the free dice draw first, then the free dice themselves.

@@ -49,15 +49,11 @@ struct UndoGame : PlayedTable {
         const GameSession& session = game.session;
         const QJsonObject before = StateOf(*this);
         const Scorecard card = game.card;
-        std::string changed = leftOver;
-        if (!game.settings.hintAllways) changed += "tips ";
         // An announcement keeps MayHint and its own tip, and the tips of a second Undo are those of the first.
-        if (event[4] == '4' || !session.MayHint || !session.TipsDirty) changed += "session.MayHint tips ";
-        if (session.Announced || session.AnnounceResume)
-            changed += "offered session.Announced session.AnnounceResume session.CurrentColumn undo ";
-        if (session.RollCount == 3) changed += "dice.shown ";
+        const bool otherTips = event[4] == '4' || !session.MayHint || !session.TipsDirty;
+        const bool announced = session.Announced || session.AnnounceResume, third = session.RollCount == 3;
         // Undo turns the Roll button on, also where all dice are held or "You must announce now!" stood.
-        const std::string roll = session.RollCount < 3 && !game.table.roll.enabled ? "roll session.RollAllowed " : "";
+        const std::string roll = !third && !game.table.roll.enabled ? "roll session.RollAllowed " : "";
         Do(event);
         Takes("tick tmrCounter");
         if (!game.table.undo || session.EndGameSeen) return;
@@ -65,16 +61,20 @@ struct UndoGame : PlayedTable {
         const QJsonObject done = StateOf(*this);
         Do("undo");
         const QJsonObject undone = StateOf(*this);
-        for (std::size_t total = 0; total < 12; ++total)
-            EXPECT_EQ(TextValue(game.card.values[total / 3].totals[total % 3]),
-                      TextValue(card.values[total / 3].totals[total % 3]));
+        for (std::size_t i = 0; i < 12; ++i)
+            EXPECT_EQ(TextValue(game.card.values[i / 3].totals[i % 3]), TextValue(card.values[i / 3].totals[i % 3]));
+        EXPECT_EQ(
+            Differences(
+                before, undone,
+                leftOver + roll + (third ? "dice.shown " : "") + (otherTips ? "session.MayHint " : "") +
+                    (otherTips || !game.settings.hintAllways ? "tips " : "") +
+                    (announced ? "offered session.Announced session.AnnounceResume session.CurrentColumn undo " : "")),
+            "");
         Do("redo");
         Takes("tick tmrCounter");
-        const QJsonObject redone = StateOf(*this);
-        Do("undo");
         const std::string again = " session.CounterSkip session.PrevColumn session.PrevTotal2 session.TipsDirty ";
-        EXPECT_EQ(Differences(before, undone, changed + roll), "");
-        EXPECT_EQ(Differences(done, redone, again + roll + (repairs ? "totals " : "")), "");
+        EXPECT_EQ(Differences(done, StateOf(*this), again + roll + (repairs ? "totals " : "")), "");
+        Do("undo");
         EXPECT_EQ(Differences(undone, StateOf(*this), " session.PrevTotal2 "), "");
         if (random() % 2 == 0) Do("redo");
     }
@@ -86,71 +86,52 @@ TEST(Undo, GivesBackTheMoveAndRedoRepeatsIt) {
     for (unsigned seed = 0; seed < 128; ++seed) UndoGame{seed};
 }
 
-// The rolls made, what is on, and how many boxes and tips.
-std::string Turn(const Game& game) {
-    std::ptrdiff_t boxes = 0;
-    for (const ColumnCard& column : game.card.values)
-        for (std::size_t row = 0; row < rowCount; ++row) boxes += column.offered[row] && column.enabled[row];
-    return std::to_string(game.session.RollCount) + (game.table.undo ? " undo" : "") +
-           (game.table.redo ? " redo" : "") + (game.session.Announced ? " announced" : "") +
-           (game.session.AnnounceResume ? " resume " : " ") + std::to_string(boxes) + '/' +
-           std::to_string(rowCount - std::ranges::count(game.table.tips, ""));
-}
-
-TEST(Undo, OfABoxWithAndWithoutRollsLeft) {
+TEST(Undo, AsTheTurnGoes) {
+    const char *rolled = "effect rollAll, frames", *written = "effect-wait score, refresh 0@75";
+    const char *undone = "effect undo, refresh ", *redone = "effect redo, refresh 0@75",
+               *back = "effect undo, refresh 0@75";
     PlayedTable t;
-    Play(t, Turn,
-         {{"state", "", "0 0/0"},
-          {"roll 1 2 3 4 5 6", "effect rollAll, frames", "1 28/9"},
-          {"box 3 6;tick tmrCounter", "effect-wait score, refresh 0@75", "0 undo 0/0"},
-          {"undo", "effect undo, refresh ", "1 redo 28/9"},
-          {"redo", "effect redo, refresh 0@75", "0 undo 0/0"},
-          {"tick tmrCounter;undo", "effect undo, refresh ", "1 redo 28/9"},
-          {"roll 1 2 3 4 5 6", "effect rollAll, frames", "2 15/9"},
-          {"roll 1 2 3 4 5 6", "effect rollAll, frames", "3 15/9"},
-          {"box 3 6;tick tmrCounter", "effect-wait score, refresh 0@75", "0 undo 0/0"},
-          {"undo", "effect undo, refresh ", "3 redo 15/9"},
-          {"box 3 7;tick tmrCounter", "effect-wait score, refresh 0@75", "0 undo 0/0"},
-          {"roll 1 2 3 4 5 6", "effect rollAll, frames", "1 27/9"},
-          {"hints request;hint", "effect hint"},
-          {"box 3 6;tick tmrCounter", "effect-wait score, refresh 0@75", "0 undo 0/0"},
-          {"undo", "effect undo, refresh 0@75", "1 redo 27/0"}});
-}
-
-TEST(Undo, OfAnAnnouncement) {
-    PlayedTable t;
-    Play(t, Turn,
-         {{"roll 1 2 3 4 5 6", "effect rollAll, frames", "1 28/9"},
-          {"box 4 6", "effect announce", "1 undo announced 1/1"},
-          {"undo", "effect undo", "1 redo 28/9"},
-          {"redo", "effect redo", "1 undo announced 1/1"},
-          {"box 4 6;tick tmrCounter", "effect-wait score, refresh 0@75", "0 undo 0/0"},
-          {"undo", "effect undo, refresh ", "1 redo 28/9"},
-          {"redo", "effect redo, refresh 0@75", "0 undo 0/0"},
-          {"tick tmrCounter;undo", "effect undo, refresh ", "1 redo 28/9"},
-          {"box 4 7", "effect announce", "1 undo announced 1/1"},
+    Play(t,
+         {{"roll 1 2 3 4 5 6", rolled, "up 1 123456 FFFFFF 1 1 13 13 =0"},
+          {"die 0;die 5;box 3 6;tick tmrCounter", "effect holdDice, effect holdDice, effect-wait score, refresh 0@75",
+           "up 0 123456 ffffff 0 0 0 0 =0 undo"},
+          {"undo", undone, "up 1 123456 HFFFFH 1 1 13 13 =0 redo"},
+          {"roll 6 6 6 5", rolled, "up 2 166656 HFFFFH 1 1 13 0 =0"},
+          {"roll 6 5 6 5", rolled, "off 3 165656 hffffh 1 1 13 0 =0"},
+          {"box 3 6;tick tmrCounter", written, "up 0 155666 ffffff 0 0 0 0 =0 undo"},
+          {"undo", undone, "off 3 165656 ffffff 1 1 13 0 =0 redo"},
+          {"redo;tick tmrCounter", redone, "up 0 155666 ffffff 0 0 0 0 =0 undo"},
+          {"roll 6 5 4 3 2 1", rolled, "up 1 654321 FFFFFF 1 1 12 13 =0"},
+          {"box 4 6", "effect announce", "up 1 654321 FFFFFF 0 0 0 1 =0 undo"},
+          {"undo", "effect undo", "up 1 654321 FFFFFF 1 1 12 13 =0 redo"},
+          {"redo", "effect redo", "up 1 654321 FFFFFF 0 0 0 1 =0 undo"},
+          {"box 4 6;tick tmrCounter", written, "up 0 123456 ffffff 0 0 0 0 =0 undo"},
+          {"undo", back, "up 1 654321 FFFFFF 1 1 12 13 =0 redo"},
+          {"redo;tick tmrCounter;undo", "effect redo, refresh 0@75, effect undo, refresh 0@75"},
+          {"box 4 7", "effect announce", "up 1 654321 FFFFFF 0 0 0 1 =0 undo"},
           {"undo;redo", "effect undo, effect redo"},
-          {"roll 1 2 3 4 5 6", "effect rollAll, frames", "2 announced 1/1"},
-          {"box 4 7;tick tmrCounter", "effect-wait score, refresh 0@75", "0 undo resume 0/0"},
-          {"undo", "effect undo, refresh ", "2 redo resume 1/1"},
-          {"redo", "effect redo, refresh 0@75", "0 undo resume 0/0"},
-          {"tick tmrCounter;undo", "effect undo, refresh ", "2 redo resume 1/1"},
-          {"roll 1 2 3 4 5 6", "effect rollAll, frames, sleep 200, effect-wait score", "0 0/0"}});
+          {"roll 1 1 1 1 1 2", rolled, "up 2 111112 FFFFFF 0 0 0 1 =0"},
+          {"box 4 7;tick tmrCounter", written, "up 0 111112 ffffff 0 0 0 0 =0 undo"},
+          {"undo", back, "up 2 111112 FFFFFF 0 0 0 1 =0 redo"},
+          {"redo;tick tmrCounter;undo", "effect redo, refresh 0@75, effect undo, refresh 0@75"},
+          {"roll 6 6 6 6 6 6", "effect rollAll, frames, sleep 200, effect-wait score",
+           "up 0 666666 ffffff 0 0 0 0 =0"}});
+    t.Do("hints request;roll;hint;box 3 7;undo");
+    EXPECT_EQ(std::ranges::count(t.game.table.tips, ""), rowCount);
 }
 
 TEST(Undo, OfferedNoMoreAtTheEnd) {
-    for (int flags = 0; flags < 8; ++flags) {
-        const bool over = flags & 1, seen = flags & 2, on = flags & 4;
-        PlayedTable t;
-        t.Do("roll");
-        t.game.session.GameOverShown = over;
-        t.game.session.EndGameSeen = seen;
-        SetUndoEnabled(t.game, on);
-        SetRedoEnabled(t.game, on);
-        t.Do("box 3 6");
-        EXPECT_EQ(t.game.table.undo, (!over && !seen) || on) << flags;
-        EXPECT_EQ(t.game.table.redo, over && !seen && on) << flags;
-    }
+    for (const bool over : {false, true})
+        for (const bool seen : {false, true}) {
+            PlayedTable t;
+            t.Do("roll");
+            t.game.session.GameOverShown = over;
+            t.game.session.EndGameSeen = seen;
+            SetRedoEnabled(t.game, true);
+            t.Do("box 3 6");
+            EXPECT_EQ(t.game.table.undo, !over && !seen);
+            EXPECT_EQ(t.game.table.redo, over && !seen) << "left as it was";
+        }
 }
 
 }  // namespace

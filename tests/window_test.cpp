@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QSlider>
 #include <QTemporaryDir>
 #include <QTest>
 #include <random>
@@ -41,7 +44,10 @@ struct WindowTable {
         game.settings = settings;
         timers.SetTick([this](Timer timer) { parts.Tick(game, timer); });
         answerer.callOnTimeout([this] {
-            if (QWidget* modal = QApplication::activeModalWidget(); modal && answer) answer(*modal);
+            QWidget* modal = QApplication::activeModalWidget();
+            if (!modal || !modal->isActiveWindow() || modal->property("answered").toBool()) return;
+            modal->setProperty("answered", true);
+            answer(*modal);
         });
         answerer.start(2);
         window.Load(game);
@@ -103,8 +109,7 @@ void ExpectBoardShown(WindowTable& t) {
             EXPECT_EQ(t.At("cmd" + name, row).isEnabled(), card.enabled[at]) << name.toStdString() << row;
         }
         const std::array suffixes{"Tot1", "Tot2", "Tot"};
-        for (std::size_t i = 0; i < suffixes.size(); ++i)
-            EXPECT_EQ(t.Text("lbl" + name + suffixes[i]), card.totals[i]);
+        for (std::size_t i = 0; i < suffixes.size(); ++i) EXPECT_EQ(t.Text("lbl" + name + suffixes[i]), card.totals[i]);
     }
 }
 
@@ -139,7 +144,7 @@ void ExpectShown(WindowTable& t) {
     }
     for (int k = 1; k <= 5; ++k) {
         EXPECT_EQ(t.Text("StatusBar1", k), table.Panel(k).text);
-        if (k < 5) EXPECT_EQ(!t.At("StatusBar1", k).isHidden(), table.Panel(k).visible);
+        EXPECT_EQ(t.At("StatusBar1", k).isHidden(), k < 5 && !table.Panel(k).visible);
     }
     EXPECT_EQ(t.window.windowTitle().toStdString(), table.title);
     EXPECT_EQ(t.Shown("StatusBar1"), table.statusBar);
@@ -181,14 +186,16 @@ TEST_P(WholeGame, IsPlayedWithTheMouse) {
     for (int clicks = 0; !t.game.session.GameOverShown && !HasFailure(); ++clicks) {
         ASSERT_LT(clicks, 5000);
         const std::vector<QString> open = OpenControls(t);
-        if (open.empty()) {  // every die is held
-            FAIL() << "nothing can be clicked";
-        }
+        ASSERT_FALSE(open.empty());
         t.Click(open[random() % open.size()]);
         QTest::qWait(t.game.table[Timer::tmrCounter].enabled ? 12 : 0);
         ExpectShown(t);
     }
     EXPECT_EQ(t.game.session.BoxesFilled, BoardSize(GetParam()));
+    if (!TwoPlayers(GetParam())) return;
+    t.Click("cmdShowNextBoard");
+    EXPECT_EQ(t.window.windowTitle(), "Lucky Cup - Player 1");
+    ExpectShown(t);
 }
 
 INSTANTIATE_TEST_SUITE_P(Variants, WholeGame,
@@ -251,7 +258,9 @@ TEST(Hover, LightsTheRowOfAnEnabledButton) {
         QTest::mouseMove(t.window.windowHandle(), t.At(name, i).mapTo(&t.window, QPoint(5, 5)));
         QCoreApplication::processEvents();
     };
-    const auto lit = [&](int row) { return t.At("lblOption", row).grab().toImage().pixelColor(3, 7).lightness() > 200; };
+    const auto lit = [&](int row) {
+        return t.At("lblOption", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
+    };
     move("cmdRand", 4);
     EXPECT_FALSE(lit(4));
     t.Click("picRollDices");
@@ -292,6 +301,194 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
     });
     QTest::qWait(20);
     EXPECT_EQ(ticks, 2);
+}
+
+// Fills the board but for its last box, and that one after one roll.
+void FillToTheLastBox(WindowTable& t) {
+    for (int row = 0; row < rowCount; ++row) {
+        t.Key(Qt::Key_Return);
+        t.Click("cmdRand", row);
+    }
+}
+
+TEST(EndGame, HasNoWayOutButItsButtons) {
+    WindowTable t(Variant(1, 4, 1));
+    int shown = 0;
+    t.answer = [&](QWidget& modal) {
+        QTest::keyClick(&modal, Qt::Key_Escape);
+        EXPECT_FALSE(modal.close());
+        ASSERT_TRUE(modal.isVisible());
+        EXPECT_FALSE(modal.windowFlags() & Qt::WindowCloseButtonHint);
+        EXPECT_EQ(modal.size(), QSize(245, 68));
+        EXPECT_NEAR(modal.geometry().center().y() - t.window.geometry().center().y(), Pixels(2200), 2);
+        EXPECT_TRUE(t.game.session.EndGameSeen);
+        QTest::keyClick(&modal, ++shown == 1 ? Qt::Key_U : Qt::Key_F, Qt::AltModifier);
+    };
+    FillToTheLastBox(t);
+    EXPECT_EQ(t.game.session.BoxesFilled, 12);
+    EXPECT_FALSE(t.game.session.EndGameFinish);
+    ExpectShown(t);
+    t.Click("cmdRand", rowLuckyCup);
+    EXPECT_EQ(shown, 2);
+    EXPECT_TRUE(t.game.session.EndGameFinish && t.game.session.GameOverShown);
+}
+
+TEST(TheWinerIs, NamesTheWinner) {
+    WindowTable t(Variant(1, 4, 2));
+    t.game.settings.Player1 = "A  ";
+    t.game.settings.Player2 = std::string(200, 'W');
+    t.game.session.FinalScore1 = -5;
+    t.answer = [&](QWidget& modal) {
+        const auto text = [&](const char* name) { return modal.findChild<QLabel*>(name)->text(); };
+        EXPECT_EQ(text("lblPlayer1"), "A's Total Score:");
+        EXPECT_EQ(text("lblScore1"), "-5");
+        EXPECT_TRUE(text("lblPlayer2").endsWith("Score:"));
+        EXPECT_TRUE(text("lblWiner").startsWith("WWW") && text("lblWiner").endsWith("Wins!"));
+        for (QLabel* label : modal.findChildren<QLabel*>())
+            EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width());
+        modal.findChild<QAbstractButton*>("cmdClose")->click();
+    };
+    t.dialogs.frmTheWinerIs(t.game);
+}
+
+struct Command {
+    const char *entry, *toolKey;  // of which one may be missing
+    QKeySequence shortcut;
+    void (*prepare)(WindowTable&);
+    bool (*done)(WindowTable&);
+};
+
+// Each command by every way that leads to it.
+TEST(Commands, AreReachedByMenuShortcutAndToolbar) {
+    const auto nothing = [](WindowTable&) {};
+    const auto placed = [](WindowTable& t) {
+        t.Key(Qt::Key_Return);
+        t.Click("cmdRand", 3);
+    };
+    const auto rolledWithoutHints = [](WindowTable& t) {
+        t.Entry("mnuHintsByRequest2").trigger();
+        t.Key(Qt::Key_Return);
+    };
+    const Command commands[] = {
+        {"mnuNewGame", "tbNew", Qt::Key_F2, placed, [](WindowTable& t) { return t.game.session.BoxesFilled == 0; }},
+        {"mnuOptions", "", Qt::CTRL | Qt::Key_O, nothing,
+         [](WindowTable& t) { return t.game.session.SettingsChanged; }},
+        {"mnuScores", "", Qt::CTRL | Qt::Key_H, nothing, [](WindowTable& t) { return t.game.session.OpenedFromGame; }},
+        {"mnuGameExit", "tbExit", Qt::CTRL | Qt::Key_X, nothing, [](WindowTable& t) { return t.window.isHidden(); }},
+        {"mnuUndoUndo", "tbUndo", {}, placed, [](WindowTable& t) { return t.game.table.redo; }},
+        {"mnuUndoRedo",
+         "tbRedo",
+         {},
+         [](WindowTable& t) {
+             t.Key(Qt::Key_Return);
+             t.Click("cmdRand", 3);
+             t.Click("tbUndo");
+         },
+         [](WindowTable& t) { return t.game.session.BoxesFilled == 1; }},
+        {"mnuHintsByRequest2", "", {}, nothing, [](WindowTable& t) { return !t.game.settings.hintAllways; }},
+        {"", "tbHint", {}, rolledWithoutHints, [](WindowTable& t) { return t.game.session.HintsRequested; }},
+        {"mnuSoundsOff2", "tbSound", {}, nothing, [](WindowTable& t) { return !t.game.settings.SoundEnabled; }},
+        {"mnuMusicOn2", "tbBGmusic", {}, nothing, [](WindowTable& t) { return t.game.settings.BGMusicEnabled; }},
+        {"mnuQuickStar", "tbHelp", {}, nothing, [](WindowTable& t) { return t.game.session.OpenedFromGame; }},
+        {"mnuContents", "", Qt::Key_F1, nothing, [](WindowTable& t) { return t.log.back() == "help"; }},
+        {"mnuGoToWeb", "", {}, nothing, [](WindowTable& t) { return t.log.back().starts_with("open https:"); }},
+        {"mnuContact", "", {}, nothing, [](WindowTable& t) { return t.log.back().starts_with("open mailto:"); }},
+    };
+    for (const auto& [entry, toolKey, shortcut, prepare, done] : commands) {
+        for (const char* way : {"menu", "shortcut", "toolbar"}) {
+            WindowTable t;
+            t.log.push_back("");
+            prepare(t);
+            ASSERT_FALSE(done(t)) << entry << toolKey;
+            if (way == std::string("menu") && *entry)
+                t.Entry(entry).trigger();
+            else if (way == std::string("shortcut") && !shortcut.isEmpty())
+                t.Key(shortcut[0].key(), shortcut[0].keyboardModifiers());
+            else if (way == std::string("toolbar") && *toolKey)
+                t.Click(toolKey);
+            else
+                continue;
+            EXPECT_TRUE(done(t)) << entry << toolKey << " by " << way;
+        }
+    }
+}
+
+TEST(Pairs, ShowTheCheckedLineAndTheOneThatSwitches) {
+    WindowTable t;
+    const char* const pairs[][4] = {{"mnuHintsAllways", "mnuHintsAllways2", "mnuHintsByRequest", "mnuHintsByRequest2"},
+                                    {"mnuSoundsOn", "mnuSoundsOn2", "mnuSoundsOff", "mnuSoundsOff2"},
+                                    {"mnuMusicOn", "mnuMusicOn2", "mnuMusicOff", "mnuMusicOff2"}};
+    const auto expect = [&](const auto& pair, bool on) {
+        for (int i = 0; i < 4; ++i) EXPECT_EQ(t.Entry(pair[i]).isVisible(), on == (i == 0 || i == 3)) << pair[i];
+    };
+    const std::array settings{&t.game.settings.hintAllways, &t.game.settings.SoundEnabled,
+                              &t.game.settings.BGMusicEnabled};
+    for (std::size_t i = 0; i < settings.size(); ++i) {
+        for (int switches = 0; switches < 3; ++switches) {
+            const bool on = *settings[i];
+            expect(pairs[i], on);
+            t.Entry(pairs[i][on ? 0 : 2]).trigger();  // the checked line does nothing
+            expect(pairs[i], on);
+            t.Entry(pairs[i][on ? 3 : 1]).trigger();
+            EXPECT_EQ(*settings[i], !on);
+        }
+    }
+    EXPECT_EQ(t.At("tbSound").property("picture"), "tb_sound_off");
+    EXPECT_EQ(t.At("tbBGmusic").property("picture"), "tb_music_on");
+}
+
+// Opens Options, checks what it shows, does something to it and closes it.
+void VisitOptions(WindowTable& t, const std::function<void(QWidget&)>& visit) {
+    t.answer = visit;
+    t.game.session.OpenedFromGame = true;
+    t.dialogs.frmOptions(t.game);
+}
+
+void Press(QWidget& dialog, const char* button) { dialog.findChild<QAbstractButton*>(button)->click(); }
+
+TEST(Options, ShowAndStoreTheSettings) {
+    WindowTable t(Variant(1, 4, 1));
+    t.game.settings.ShowDialog = false;
+    t.game.settings.BGMusicEnabled = true;
+    t.game.settings.BGMusicVolume = 120;
+    VisitOptions(t, [&](QWidget& dialog) {
+        EXPECT_EQ(dialog.size(), QSize(379, 517));
+        for (const char* name : {"optYahtzee", "opt5Dice", "opt1Player", "optShowNone", "chkShowStatusBar",
+                                 "chkQuitGame", "chkConfirmExit"})
+            EXPECT_TRUE(dialog.findChild<QAbstractButton*>(name)->isChecked()) << name;
+        auto* slider = dialog.findChild<QSlider*>("sldVolume");
+        EXPECT_EQ(slider->value(), 120);
+        slider->setValue(900);
+        EXPECT_EQ(t.game.settings.BGMusicVolume, 900);
+        for (const char* name : {"optYamb", "opt6Dice", "opt2Players", "optShowSplash", "chkConfirmExit"})
+            Press(dialog, name);
+        EXPECT_FALSE(dialog.findChild<QWidget*>("chkShowStatusBar")->isEnabled());
+        auto* name2 = dialog.findChild<QLineEdit*>("txtName2");
+        EXPECT_TRUE(name2->isEnabled());
+        name2->setText(QString::fromUtf8("Ж & <b>"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    GameSettings wanted = Variant(4, 5, 2);
+    wanted.ShowDialog = false;
+    wanted.ShowSplash = true;
+    wanted.ConfirmOnExit = false;
+    wanted.Player2 = "Ж & <b>";
+    wanted.BGMusicEnabled = true;
+    wanted.BGMusicVolume = 900;
+    EXPECT_EQ(t.game.settings, wanted);
+
+    VisitOptions(t, [&](QWidget& dialog) {
+        Press(dialog, "optYahtzee");
+        dialog.findChild<QSlider*>("sldVolume")->setValue(3);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(t.game.settings, wanted);
+    EXPECT_FALSE(t.game.session.SettingsChanged);
+    VisitOptions(t, [&](QWidget& dialog) {
+        dialog.findChild<QSlider*>("sldVolume")->setValue(3);
+        dialog.close();  // is not Cancel
+    });
+    EXPECT_EQ(t.game.settings.BGMusicVolume, 3);
 }
 
 }  // namespace
