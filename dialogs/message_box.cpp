@@ -1,5 +1,6 @@
 #include "dialogs/message_box.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 static QMessageBox::Icon IconOf(MessageIcon icon) {
@@ -25,6 +26,7 @@ Answer ShowMessageBox(QWidget* parent, const Message& message) {
     box.setText(QString::fromStdString(message.text));
     box.setStandardButtons(mayCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
+    for (QAbstractButton* button : box.buttons()) button->setIcon({});
     const int button = box.exec();
     return mayCancel && button != QMessageBox::Ok ? Answer::Cancel : Answer::Ok;
 }

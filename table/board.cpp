@@ -1,6 +1,6 @@
 #include "table/board.h"
 
-#include <QEvent>
+#include <QMouseEvent>
 
 #include "table/row_names.h"
 
@@ -22,15 +22,17 @@ PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, {
 PictureButton::Looks WideHotLooks(int row) { return {Index("row_hot", row), {}, Index("row_plain", row)}; }
 }  // namespace
 
-BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, Hover hover)
-    : PictureButton(name, parent, art, NarrowLooks()), hover_(std::move(hover)) {
+BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover)
+    : PictureButton(name, parent, art, NarrowLooks()), box_(box), hover_(std::move(hover)) {
     setMouseTracking(true);
     setEnabled(false);
     hide();
 }
 
+void BoxButton::SayState() { setAccessibleName(box_ + (isEnabled() ? ", open" : ", closed")); }
+
 void BoxButton::TellHover(bool on) {
-    if (hovered_ == on || (on && !isEnabled())) return;
+    if (on ? !isEnabled() : !hovered_) return;
     hovered_ = on;
     hover_(on);
 }
@@ -40,10 +42,10 @@ void BoxButton::enterEvent(QEnterEvent* event) {
     TellHover(true);
 }
 
-// A button that was enabled under a resting mouse lights up with the first move.
+// A button that was enabled under a resting mouse, or whose light a click has put out, lights up with the next move.
 void BoxButton::mouseMoveEvent(QMouseEvent* event) {
     PictureButton::mouseMoveEvent(event);
-    TellHover(underMouse());
+    TellHover(rect().contains(event->position().toPoint()));
 }
 
 void BoxButton::leaveEvent(QEvent* event) {
@@ -59,6 +61,7 @@ void BoxButton::hideEvent(QHideEvent* event) {
 void BoxButton::changeEvent(QEvent* event) {
     PictureButton::changeEvent(event);
     if (event->type() != QEvent::EnabledChange) return;
+    SayState();
     if (!isEnabled()) TellHover(false);
 }
 
@@ -80,9 +83,8 @@ void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Event
         const LabelLook& look = row == rowMax || row == rowMin ? maxMinLook : boxLook;
         made.boxes[at] = new TextLabel(Index(label, row), table, look, Qt::AlignHCenter);
         made.boxes[at]->setAccessibleDescription(Called(column, RowName(row)));
-        made.buttons[at] = new BoxButton(Index(button, row), table, art,
-                                         [hover = events.hover, column, row](bool on) { hover(column, row, on); });
-        made.buttons[at]->setAccessibleName(Called(column, RowName(row)) + ", open");
+        const auto hover = [hover = events.hover, column, row](bool on) { hover(column, row, on); };
+        made.buttons[at] = new BoxButton(Index(button, row), table, art, Called(column, RowName(row)), hover);
         QObject::connect(made.buttons[at], &QAbstractButton::clicked,
                          [click = events.click, column, row] { click(column, row); });
     }

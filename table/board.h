@@ -5,12 +5,14 @@
 #include "table/controls.h"
 #include "table/layout.h"
 
-// A button over an open box; hidden and disabled at first. It tells when the mouse comes onto it while it can be clicked, and when it leaves again.
+// A button over an open box; hidden and disabled at first. It tells when the mouse comes onto it while it can be
+// clicked, and when it leaves again.
 class BoxButton final : public PictureButton {
 public:
     using Hover = std::function<void(bool onButton)>;
 
-    BoxButton(const QString& name, QWidget* parent, Art& art, Hover hover);
+    // box: what a screen reader calls the box that the button stands over.
+    BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover);
 
 protected:
     void enterEvent(QEnterEvent* event) override;
@@ -21,7 +23,9 @@ protected:
 
 private:
     void TellHover(bool on);
+    void SayState();
 
+    QString box_;
     Hover hover_;
     bool hovered_ = false;
 };

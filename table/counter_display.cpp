@@ -16,13 +16,20 @@ void CounterDisplay::Refresh() {
     repaint();
 }
 
+// In device pixels, so that at a fractional scale the glyphs keep clear of the frame that is part of the blank picture.
 void CounterDisplay::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    art_.Draw(painter, rect(), "counter_blank");
+    const QRect face = DeviceArea(painter, rect());
+    UseDevicePixels(painter);
+    painter.drawPixmap(face.topLeft(), art_.Picture("counter_blank", face.size()));
+    const auto across = [&](int x) { return face.left() + x * face.width() / counterWidth; };
+    const auto down = [&](int y) { return face.top() + y * face.height() / counterHeight; };
+    const int top = down(glyphTop);
+    const int height = down(glyphTop + glyphHeight) - top;
     for (const GlyphRun& run : picture_.Runs()) {
-        painter.save();
-        painter.setClipRect(QRectF(run.x + run.first, glyphTop, run.last - run.first + 1, glyphHeight));
-        art_.Draw(painter, QRectF(run.x, glyphTop, glyphWidth, glyphHeight), ArtOf(run.glyph));
-        painter.restore();
+        const QSize size(across(run.x + glyphWidth) - across(run.x), height);
+        const int first = across(run.x + run.first);
+        painter.setClipRect(first, top, across(run.x + run.last + 1) - first, height);
+        painter.drawPixmap(across(run.x), top, art_.Picture(ArtOf(run.glyph), size));
     }
 }

@@ -7,6 +7,7 @@ void EventGate::Run(Handler handler) {
         waiting_.push_back(std::move(handler));
         return;
     }
+    while (!waiting_.empty()) RunFirstWaiting();
     Enter(handler);
 }
 
@@ -19,12 +20,13 @@ void EventGate::Enter(const Handler& handler) {
 
 void EventGate::RunLater() {
     if (waiting_.empty()) return;
-    QMetaObject::invokeMethod(
-        this, [this] { RunWaiting(); }, Qt::QueuedConnection);
+    const auto run = [this] {
+        if (!Busy() && !waiting_.empty()) RunFirstWaiting();
+    };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
 }
 
-void EventGate::RunWaiting() {
-    if (Busy() || waiting_.empty()) return;
+void EventGate::RunFirstWaiting() {
     const Handler handler = std::move(waiting_.front());
     waiting_.pop_front();
     Enter(handler);

@@ -30,7 +30,7 @@ public:
 private:
     void Enter(const Handler& handler);
     void RunLater();
-    void RunWaiting();
+    void RunFirstWaiting();
 
     int depth_ = 0;
     std::deque<Handler> waiting_;

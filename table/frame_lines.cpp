@@ -12,7 +12,12 @@ FrameLines::Frame FrameLines::Make(QWidget* table, const std::array<ControlPlace
 }
 
 void FrameLines::PlaceFrame(const Frame& frame, const std::array<ControlPlace, 4>& places, int columns) {
-    for (std::size_t i = 0; i < frame.size(); ++i) frame[i]->setGeometry(Pixels(places[i].In(columns)));
+    for (std::size_t i = 0; i < frame.size(); ++i) {
+        const Place place = places[i].In(columns);
+        const QPoint endPoint = place.width == 0 ? QPoint(0, 1) : QPoint(1, 0);  // belongs to the line
+        const QRect area = Pixels(place);
+        frame[i]->setGeometry(QRect(area.topLeft(), area.bottomRight() + endPoint));
+    }
 }
 
 void FrameLines::SetFrameHeight(int columns) { PlaceFrame(rows_, rowFrameLines, columns); }

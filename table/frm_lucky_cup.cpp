@@ -87,9 +87,16 @@ void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
 Board::Events frmLuckyCup::BoardEvents() {
     return {
         .click = [this](ScoreColumn column, int row) { Run([=](Game& game) { ClickBox(game, column, row); }); },
-        .hover = [this](ScoreColumn column, int row,
-                        bool onButton) { Run([=](Game& game) { cmdBox_MouseMove(game, column, row, onButton); }); },
+        .hover = [this](ScoreColumn column, int row, bool onButton) { Hover(column, row, onButton); },
     };
+}
+
+void frmLuckyCup::Hover(ScoreColumn column, int row, bool onButton) {
+    Run([=](Game& game) {
+        // New Game forgets the hover but not the light, so a mouse that leaves is reported once more before it goes.
+        if (!onButton) cmdBox_MouseMove(game, column, row, true);
+        cmdBox_MouseMove(game, column, row, onButton);
+    });
 }
 
 DiceTray::Events frmLuckyCup::TrayEvents() {

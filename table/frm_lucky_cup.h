@@ -77,6 +77,7 @@ protected:
 
 private:
     void Run(const std::function<void(Game&)>& handler);
+    void Hover(ScoreColumn column, int row, bool onButton);
     Board::Events BoardEvents();
     DiceTray::Events TrayEvents();
     CommandRunner Commands();

@@ -12,7 +12,6 @@ TEST(Announce, ComesBetweenTheFirstAndTheSecondRoll) {
              {"undo", "effect undo", "up 1 11234 HFFFF 1 1 13 13 =0 redo"},
              {"redo", "effect redo", "up 1 11234 HFFFF 0 0 0 1 =0 undo"},
              {"not box 4 1", ""},
-             {"not box 3 0", ""},
              {"box 4 0", "effect-wait score", "up 0 11234 fffff 0 0 0 0 =2 undo"},
              {"roll 1 1 2 3 4", "effect rollAll, frames", "up 1 11234 FFFFF 1 1 13 12 =2"},
              {"roll 1 1 2 3 4", "effect rollAll, frames", "up 2 11234 FFFFF 1 1 13 0 =2"}});
@@ -27,7 +26,6 @@ TEST(Announce, IsBoundToItsBoxWhenTheSecondRollIsTakenBack) {
              {"undo", "effect undo, refresh ", "up 2 22222 FFFFH 0 0 0 1 =0 redo"},
              {"box 4 1", "effect-wait score", "up 0 22222 fffff 0 0 0 0 =10 undo"},
              {"undo", "effect undo, refresh ", "up 2 22222 FFFFH 0 0 0 1 =0 redo"},
-             {"not box 3 1", ""},
              {"roll 3 3 2 1", "effect rollAll, frames, sleep 200, effect-wait score", "up 0 12233 fffff 0 0 0 0 =4"},
              {"roll 1 2 3 4 6", "effect rollAll, frames", "up 1 12346 FFFFF 1 1 13 12 =4"}});
 }

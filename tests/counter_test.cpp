@@ -10,8 +10,8 @@ struct Counter : PlayedTable {
 
     // The number drawn at once; the display of a game that has not scored yet is blank.
     std::string Draw(int number, bool blank = false) {
+        // The places of the sign and of the digits, by the number of digits.
         constexpr std::array<std::array<int, 5>, 5> places{
-            // of the sign and the digits, by their number
             {{}, {62, 75}, {55, 68, 81}, {49, 62, 75, 88}, {0, 55, 68, 81, 94}}};
         const std::string digits = std::to_string(std::abs(number));
         const auto& x = places[digits.size()];
@@ -80,7 +80,6 @@ TEST(ScoreCounter, FramesWorkedOutOnPaper) {
          {"9@62 9@75 9@88", "1@55 0@68 0@75[6-12] 0@88", "1@55 0@68 0@81 1@94", "1@55 0@68 0@81 1@94",
           "1@55 0@68 0@81 1@94"}},
         {{10, -42}, {"-@55 4@68 2@81"}},
-        {{0, -123}, {"-@49 1@62 2@75 3@88"}},
         {{-1, -1000}, {"1@55 0@68 0@81 0@94"}}};
     for (const auto& [totals, frames] : runs) {
         Counter counter;
@@ -97,7 +96,6 @@ TEST(ScoreCounter, RunsOnceForEveryBoxAndNotAfterRedo) {
           {"undo", "effect undo, refresh ", "up 1 11234 FFFFF 1 1 13 13 =0 redo"},
           {"redo", "effect redo, refresh 2@75", "up 0 11234 fffff 0 0 0 0 =2 undo"},
           {"tick tmrCounter", ""},
-          {"not tick tmrCounter", ""},
           {"sounds off;undo;redo;roll 1 2 3 4 6;box 1 0;tick tmrCounter",
            "refresh , refresh 2@75, frames, sleep 50, refresh 3@75", "up 0 12346 fffff 0 0 0 0 =3 undo"}});
 }

@@ -67,6 +67,7 @@ void CheckEveryThrow(std::size_t dice) {
     game.dice = lying;
     EXPECT_EQ(JsonLine("", false, t.table), before);
 }
+
 TEST(RowScores, OfEveryThrowOfFiveDice) { CheckEveryThrow(5); }
 TEST(RowScores, OfEveryThrowOfSixDice) { CheckEveryThrow(6); }
 

@@ -18,7 +18,6 @@ TEST(Turn, OfThreeRolls) {
              {"die 2", "effect UnHoldDice", "up 2 16326 HHFHH 1 1 13 0 =0"},
              {"roll 5", "effect rollOne, frames", "off 3 16526 hhfhh 1 1 13 0 =0"},
              {"not die 0", ""},
-             {"not die 2", ""},
              {"not key enter", ""},
              {"key space", "minimize"},
              {"box 3 6", "effect-wait score", "up 0 12566 fffff 0 0 0 0 =0 undo"},
@@ -38,17 +37,20 @@ TEST(Turn, OfOneColumnWithSixDice) {
 
 TEST(Turn, EnterHandsOverOnlyWhenTheCounterHasRun) {
     PlayedTable t({.NumberOfDice = 4, .NumberOfPlayers = 2});
-    Play(t, {{"roll 1 2 3 4 6 6 2 3 2 3", "effect rollAll, frames", "up 1 12346 FFFFF 1 1 13 13 =0"},
+    constexpr const char* countsToOne = "effect counter7, sleep 50, refresh 1@75, effect counter0";
+    Play(t, {{"roll 1 2 3 4 6 6 1 3 2 3", "effect rollAll, frames", "up 1 12346 FFFFF 1 1 13 13 =0"},
              {"box 3 0", "effect-wait score", "up 0 12346 fffff 0 0 0 0 =1 undo next"},
              {"not key enter", ""},
-             {"tick tmrCounter", "effect counter7, sleep 50, refresh 1@75, effect counter0"},
-             {"key enter", "refresh , effect rollAll, frames", "up 1 62323 FFFFF 1 1 13 13 =0"},
-             {"box 3 1", "effect-wait score", "up 0 22336 fffff 0 0 0 0 =4 undo next"},
+             {"tick tmrCounter", countsToOne},
+             {"key enter", "refresh , effect rollAll, frames", "up 1 61323 FFFFF 1 1 13 13 =0"},
+             {"box 3 0", "effect-wait score", "up 0 12336 fffff 0 0 0 0 =1 undo next"},
              {"not key enter", ""},
+             {"tick tmrCounter", countsToOne},
              {"next 2 3 4 5 5", "refresh 1@75, effect rollAll, frames", "up 1 23455 FFFFF 1 1 12 13 =1"},
              {"box 3 4", "effect-wait score", "up 0 23455 fffff 0 0 0 0 =11 undo next"},
              {"not key enter", ""},
-             {"roll 1 1 1 1 1", "refresh , effect rollAll, frames, effect LuckyCup", "up 1 11111 FFFFF 1 1 12 13 =4"}});
+             {"roll 1 1 1 1 1", "refresh 1@75, effect rollAll, frames, effect LuckyCup",
+              "up 1 11111 FFFFF 1 1 12 13 =1"}});
 }
 
 // The rolling pictures of the free dice draw first, then the free dice themselves.

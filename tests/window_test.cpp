@@ -271,6 +271,12 @@ TEST(Hover, LightsTheRowOfAnEnabledButton) {
     EXPECT_TRUE(!lit(4) && lit(5));
     t.Click("cmdRand", 5);
     EXPECT_TRUE(!lit(5) && !t.game.session.RowHighlighted);
+    t.Key(Qt::Key_Return);
+    move("cmdRand", 6);
+    EXPECT_TRUE(lit(6));
+    t.Key(Qt::Key_F2);
+    QTest::qWait(5);
+    EXPECT_FALSE(lit(6));
 }
 
 TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
@@ -351,64 +357,66 @@ TEST(TheWinerIs, NamesTheWinner) {
     t.dialogs.frmTheWinerIs(t.game);
 }
 
+using T = WindowTable&;
+
 struct Command {
     const char *entry, *toolKey;  // of which one may be missing
     QKeySequence shortcut;
-    void (*prepare)(WindowTable&);
-    bool (*done)(WindowTable&);
+    void (*prepare)(T);
+    bool (*done)(T);
 };
 
-// Each command by every way that leads to it.
+void Nothing(T) {}
+void PlacedABox(T t) {
+    t.Key(Qt::Key_Return);
+    t.Click("cmdRand", 3);
+}
+void TookABoxBack(T t) {
+    PlacedABox(t);
+    t.Click("tbUndo");
+}
+void RolledWithoutHints(T t) {
+    t.Entry("mnuHintsByRequest2").trigger();
+    t.Key(Qt::Key_Return);
+}
+
+const Command commands[] = {
+    {"mnuNewGame", "tbNew", Qt::Key_F2, PlacedABox, [](T t) { return t.game.session.BoxesFilled == 0; }},
+    {"mnuOptions", "", Qt::CTRL | Qt::Key_O, Nothing, [](T t) { return t.game.session.SettingsChanged; }},
+    {"mnuScores", "", Qt::CTRL | Qt::Key_H, Nothing, [](T t) { return t.game.session.OpenedFromGame; }},
+    {"mnuGameExit", "tbExit", Qt::CTRL | Qt::Key_X, Nothing, [](T t) { return t.window.isHidden(); }},
+    {"mnuUndoUndo", "tbUndo", {}, PlacedABox, [](T t) { return t.game.table.redo; }},
+    {"mnuUndoRedo", "tbRedo", {}, TookABoxBack, [](T t) { return t.game.session.BoxesFilled == 1; }},
+    {"mnuHintsByRequest2", "", {}, Nothing, [](T t) { return !t.game.settings.hintAllways; }},
+    {"", "tbHint", {}, RolledWithoutHints, [](T t) { return t.game.session.HintsRequested; }},
+    {"mnuSoundsOff2", "tbSound", {}, Nothing, [](T t) { return !t.game.settings.SoundEnabled; }},
+    {"mnuMusicOn2", "tbBGmusic", {}, Nothing, [](T t) { return t.game.settings.BGMusicEnabled; }},
+    {"mnuQuickStar", "tbHelp", {}, Nothing, [](T t) { return t.game.session.OpenedFromGame; }},
+    {"mnuContents", "", Qt::Key_F1, Nothing, [](T t) { return t.log.back() == "help"; }},
+    {"mnuGoToWeb", "", {}, Nothing, [](T t) { return t.log.back().starts_with("open https:"); }},
+    {"mnuContact", "", {}, Nothing, [](T t) { return t.log.back().starts_with("open mailto:"); }},
+};
+
+// The ways that lead to a command.
+void ByMenu(T t, const Command& command) { t.Entry(command.entry).trigger(); }
+void ByToolbar(T t, const Command& command) { t.Click(command.toolKey); }
+void ByShortcut(T t, const Command& command) {
+    t.Key(command.shortcut[0].key(), command.shortcut[0].keyboardModifiers());
+}
+
 TEST(Commands, AreReachedByMenuShortcutAndToolbar) {
-    const auto nothing = [](WindowTable&) {};
-    const auto placed = [](WindowTable& t) {
-        t.Key(Qt::Key_Return);
-        t.Click("cmdRand", 3);
-    };
-    const auto rolledWithoutHints = [](WindowTable& t) {
-        t.Entry("mnuHintsByRequest2").trigger();
-        t.Key(Qt::Key_Return);
-    };
-    const Command commands[] = {
-        {"mnuNewGame", "tbNew", Qt::Key_F2, placed, [](WindowTable& t) { return t.game.session.BoxesFilled == 0; }},
-        {"mnuOptions", "", Qt::CTRL | Qt::Key_O, nothing,
-         [](WindowTable& t) { return t.game.session.SettingsChanged; }},
-        {"mnuScores", "", Qt::CTRL | Qt::Key_H, nothing, [](WindowTable& t) { return t.game.session.OpenedFromGame; }},
-        {"mnuGameExit", "tbExit", Qt::CTRL | Qt::Key_X, nothing, [](WindowTable& t) { return t.window.isHidden(); }},
-        {"mnuUndoUndo", "tbUndo", {}, placed, [](WindowTable& t) { return t.game.table.redo; }},
-        {"mnuUndoRedo",
-         "tbRedo",
-         {},
-         [](WindowTable& t) {
-             t.Key(Qt::Key_Return);
-             t.Click("cmdRand", 3);
-             t.Click("tbUndo");
-         },
-         [](WindowTable& t) { return t.game.session.BoxesFilled == 1; }},
-        {"mnuHintsByRequest2", "", {}, nothing, [](WindowTable& t) { return !t.game.settings.hintAllways; }},
-        {"", "tbHint", {}, rolledWithoutHints, [](WindowTable& t) { return t.game.session.HintsRequested; }},
-        {"mnuSoundsOff2", "tbSound", {}, nothing, [](WindowTable& t) { return !t.game.settings.SoundEnabled; }},
-        {"mnuMusicOn2", "tbBGmusic", {}, nothing, [](WindowTable& t) { return t.game.settings.BGMusicEnabled; }},
-        {"mnuQuickStar", "tbHelp", {}, nothing, [](WindowTable& t) { return t.game.session.OpenedFromGame; }},
-        {"mnuContents", "", Qt::Key_F1, nothing, [](WindowTable& t) { return t.log.back() == "help"; }},
-        {"mnuGoToWeb", "", {}, nothing, [](WindowTable& t) { return t.log.back().starts_with("open https:"); }},
-        {"mnuContact", "", {}, nothing, [](WindowTable& t) { return t.log.back().starts_with("open mailto:"); }},
-    };
-    for (const auto& [entry, toolKey, shortcut, prepare, done] : commands) {
-        for (const char* way : {"menu", "shortcut", "toolbar"}) {
+    for (const Command& command : commands) {
+        std::vector<void (*)(T, const Command&)> ways;
+        if (*command.entry) ways.push_back(ByMenu);
+        if (*command.toolKey) ways.push_back(ByToolbar);
+        if (!command.shortcut.isEmpty()) ways.push_back(ByShortcut);
+        for (std::size_t way = 0; way < ways.size(); ++way) {
             WindowTable t;
             t.log.push_back("");
-            prepare(t);
-            ASSERT_FALSE(done(t)) << entry << toolKey;
-            if (way == std::string("menu") && *entry)
-                t.Entry(entry).trigger();
-            else if (way == std::string("shortcut") && !shortcut.isEmpty())
-                t.Key(shortcut[0].key(), shortcut[0].keyboardModifiers());
-            else if (way == std::string("toolbar") && *toolKey)
-                t.Click(toolKey);
-            else
-                continue;
-            EXPECT_TRUE(done(t)) << entry << toolKey << " by " << way;
+            command.prepare(t);
+            ASSERT_FALSE(command.done(t)) << command.entry << command.toolKey;
+            ways[way](t, command);
+            EXPECT_TRUE(command.done(t)) << command.entry << command.toolKey << " by way " << way;
         }
     }
 }
