@@ -17,7 +17,10 @@
 #include "table/table_parts.h"
 
 namespace {
-QString LockPath() { return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/LuckyCup.lock"; }
+QString LockPath() {
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return (own.isEmpty() ? QDir::homePath() : own) + "/LuckyCup.lock";
+}
 
 // A lock that a crashed process left behind does not count, nor does a folder that takes no lock at all.
 bool RunsAlready(QLockFile& lock) {
@@ -26,7 +29,8 @@ bool RunsAlready(QLockFile& lock) {
 }
 
 std::string ProgramFolder() {
-    return (QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) + QDir::separator()).toStdString();
+    const QString folder = QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
+    return (folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator()).toStdString();
 }
 
 // All that stands behind one table, each made before what it is handed to.

@@ -179,6 +179,10 @@ void EndHintByRequest(Game& game) {
 
 void picRollDices_MouseDown(Game& game) { SetRollPicture(game, RollPicture::On); }
 
+void CancelRollPress(Game& game) {
+    if (game.table.roll.picture == RollPicture::On) SetRollPicture(game, RollPicture::Up);
+}
+
 void picRollDices_MouseUp(Game& game) {
     GameSession& session = game.session;
     session.CounterSkip = false;

@@ -6,6 +6,7 @@
 // visible and enabled.
 void picRollDices_MouseDown(Game& game);
 void picRollDices_MouseUp(Game& game);
+void CancelRollPress(Game& game);  // a press that a modal window has cut off
 void cmdNextPlayer_MouseUp(Game& game);
 void picDice_Click(Game& game, int i);     // holds a free die
 void PicDiceOff_Click(Game& game, int i);  // releases a held die

@@ -77,11 +77,13 @@ Board::Board(QWidget* table, Art& art, const Events& events)
 void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events) {
     Column& made = columns_[column];
     const QString label = QString("lbl") + ColumnName(column);
+    const QFont boxFont = BoxFont();
     const QString button = QString("cmd") + ColumnName(column);
     for (int row = 0; row < rowCount; ++row) {
         const auto at = static_cast<std::size_t>(row);
         const LabelLook& look = row == rowMax || row == rowMin ? maxMinLook : boxLook;
         made.boxes[at] = new TextLabel(Index(label, row), table, look, Qt::AlignHCenter);
+        made.boxes[at]->setFont(boxFont);
         made.boxes[at]->setAccessibleDescription(Called(column, RowName(row)));
         const auto hover = [hover = events.hover, column, row](bool on) { hover(column, row, on); };
         made.buttons[at] = new BoxButton(Index(button, row), table, art, Called(column, RowName(row)), hover);
@@ -91,6 +93,7 @@ void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Event
     for (std::size_t i = 0; i < allTotalRows.size(); ++i) {
         const LabelLook& look = allTotalRows[i] == TotalRow::ColumnTotal ? columnTotalLook : sumLook;
         made.totals[i] = new TextLabel(label + totalSuffixes[i], table, look, Qt::AlignHCenter);
+        made.totals[i]->setFont(boxFont);
         made.totals[i]->setAccessibleDescription(Called(column, totalNames[i]));
     }
 }

@@ -13,6 +13,12 @@ QFont TableFont(bool bold, int pixels) {
     return font;
 }
 
+QFont BoxFont() {
+    QFont font = TableFont(true);
+    font.setFamilies(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + font.families());
+    return font;
+}
+
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight) {
     const QRect device = DeviceArea(painter, area);
     const int width = std::max(1, static_cast<int>(painter.device()->devicePixelRatioF()));

@@ -34,6 +34,7 @@ inline constexpr QColor highlight{0xFF, 0xFF, 0xE1};
 
 // A font of the told families, or of those that stand for them, in device-independent pixels.
 QFont TableFont(bool bold, int pixels = 11);
+QFont BoxFont();  // of boxes and totals
 
 // The edge of an area, about one pixel wide and everywhere of the same width. An invalid colour paints nothing.
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight);

@@ -26,9 +26,18 @@ PictureButton::Looks RollLooks(RollPicture kind) {
 }
 }  // namespace
 
-RollButton::RollButton(QWidget* parent, Art& art)
-    : PictureButton("picRollDices", parent, art, RollLooks(RollPicture::Up)) {
+RollButton::RollButton(QWidget* parent, Art& art, std::function<void()> cancelled)
+    : PictureButton("picRollDices", parent, art, RollLooks(RollPicture::Up)), cancelled_(std::move(cancelled)) {
     setAccessibleName("Roll the dice");
+}
+
+// The release of a mouse button goes to the modal window that has come up meanwhile.
+bool RollButton::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked && held_) {
+        held_ = {};
+        cancelled_();
+    }
+    return PictureButton::event(event);
 }
 
 void RollButton::mousePressEvent(QMouseEvent* event) {
@@ -45,7 +54,7 @@ void RollButton::mouseReleaseEvent(QMouseEvent* event) {
 DiceTray::DiceTray(QWidget* table, Art& art, const Events& events)
     : tray_(new Shape(trayPlace.name, table, colour::tray, colour::trayEdge, colour::trayEdge)),
       rollFrame_(new Shape(rollFramePlace.name, table, {}, colour::trayEdge, colour::trayEdge)),
-      roll_(new RollButton(table, art)) {
+      roll_(new RollButton(table, art, events.rollCancelled)) {
     for (int i = 0; i < maxDice; ++i) MakeDie(i, table, art, events);
     MakeRollButton(art, events);
 }

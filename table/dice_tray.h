@@ -9,13 +9,15 @@
 // The Roll button. Any mouse button presses it, and what was pressed on it is let go on it wherever the mouse went.
 class RollButton final : public PictureButton {
 public:
-    RollButton(QWidget* parent, Art& art);
+    RollButton(QWidget* parent, Art& art, std::function<void()> cancelled);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    std::function<void()> cancelled_;
     Qt::MouseButtons held_;
 };
 
@@ -23,7 +25,7 @@ private:
 class DiceTray {
 public:
     struct Events {
-        std::function<void()> rollDown, rollUp, nextPlayer, showBoard;
+        std::function<void()> rollDown, rollUp, rollCancelled, nextPlayer, showBoard;
         std::function<void(int i)> hold, release;
     };
 

@@ -20,9 +20,11 @@ constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Q
 
 QString Text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-// The code of a key of the table, 0 for every other.
+// The code of a key of the table, 0 for every other. A key that is held down counts once, or Enter would roll a whole
+// turn away.
 int KeyCode(const QKeyEvent& event) {
-    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return 0;
+    if (event.isAutoRepeat() || event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return 0;
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -73,10 +75,12 @@ void frmLuckyCup::SetPointersAndIcon() {
 }
 
 void frmLuckyCup::PlaceOnScreen() {
-    constexpr int told = 8100;  // the height that the place is worked out from, whatever the window's own is
+    // The place is worked out from these, whatever the window's own size is.
+    constexpr int toldWidth = 4900;
+    constexpr int toldHeight = 8100;
     const QRect area = screen()->geometry();
-    const int spareWidth = area.width() - Pixels(windowWidth);
-    const int spareHeight = area.height() - Pixels(told);
+    const int spareWidth = area.width() - Pixels(toldWidth);
+    const int spareHeight = area.height() - Pixels(toldHeight);
     move(area.left() + spareWidth / 2, area.top() + static_cast<int>(spareHeight / 4.3));
 }
 
@@ -103,6 +107,7 @@ DiceTray::Events frmLuckyCup::TrayEvents() {
     return {
         .rollDown = [this] { Run(picRollDices_MouseDown); },
         .rollUp = [this] { Run(picRollDices_MouseUp); },
+        .rollCancelled = [this] { Run(CancelRollPress); },
         .nextPlayer = [this] { Run(cmdNextPlayer_MouseUp); },
         .showBoard = [this] { Run(cmdShowNextBoard_Click); },
         .hold = [this](int i) { Run([i](Game& game) { picDice_Click(game, i); }); },
@@ -137,7 +142,8 @@ void frmLuckyCup::LayOut(int columns, int lastDieIndex) {
     score_->setGeometry(Pixels(scorePlace.In(columns)));
 }
 
-void frmLuckyCup::SetTitle(std::string_view text) { setWindowTitle(Text(text)); }
+// Qt takes a single [*] for its mark of a changed document.
+void frmLuckyCup::SetTitle(std::string_view text) { setWindowTitle(Text(text).replace("[*]", "[*][*]")); }
 
 void frmLuckyCup::SetWindowHeight(int twips) {
     const int inner = twips - frameAndMenuHeight;

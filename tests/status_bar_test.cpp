@@ -69,8 +69,10 @@ TEST(StatusBar, ClockRunsFromTheLoadOverMidnight) {
 
 TEST(StatusBar, InstructionsAroundAGame) {
     PlayedTable t({.NumberOfColumns = 1});
-    const std::string message = std::string(50, ' ') + "G a m e  O v e r !" + std::string(28, ' ') +
-                                "To begin a new game click the 'New Game' button or press F2";
+    std::string message(50, ' ');
+    message += "G a m e  O v e r !";
+    message.append(28, ' ');
+    message += "To begin a new game click the 'New Game' button or press F2";
     for (unsigned seed = 1; seed <= 2; ++seed) {
         t.PlayGame(seed, [](const std::string&) {});
         for (const Moment& moment :
