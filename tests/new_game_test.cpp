@@ -25,7 +25,7 @@ void PlayAtRandom(PlayedTable& played, std::mt19937& random, unsigned long event
 }
 
 TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
-    for (unsigned long seed = 0; seed < 160; ++seed) {
+    for (unsigned long seed = 0; seed < 80; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const GameSettings settings = Variant(seed), next = Variant(seed / 8 % 2 == 0 ? seed : random());

@@ -81,7 +81,7 @@ struct UndoGame : PlayedTable {
 };
 
 TEST(Undo, GivesBackTheMoveAndRedoRepeatsIt) {
-    for (unsigned seed = 0; seed < 128; ++seed) UndoGame{seed};
+    for (unsigned seed = 0; seed < 64; ++seed) UndoGame{seed};
 }
 
 TEST(Undo, AsTheTurnGoes) {

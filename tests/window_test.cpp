@@ -199,7 +199,8 @@ TEST_P(WholeGame, IsPlayedWithTheMouse) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Variants, WholeGame,
-                         testing::Values(Variant(4, 5, 1), Variant(1, 4, 1), Variant(4, 4, 2), Variant(1, 5, 2)));
+                         testing::Values(Variant(4, 5, 1), Variant(1, 4, 1), Variant(4, 4, 2), Variant(1, 5, 2)),
+                         [](const auto& variant) { return "Number" + std::to_string(variant.index); });
 
 QHash<QString, QRect> Places(WindowTable& t) {
     QHash<QString, QRect> places;
