@@ -70,7 +70,7 @@ void frmLuckyCup::SetPointersAndIcon() {
     board_.SetPointer(hand);
     tray_.SetPointers(hand, cursor());
     QIcon icon;
-    for (int size : {16, 32, 48, 64, 128}) icon.addPixmap(art_.Scaled("icon", {size, size}, 1));
+    for (int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(art_.Scaled("icon", {size, size}, 1));
     QApplication::setWindowIcon(icon);
 }
 
