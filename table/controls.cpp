@@ -1,7 +1,5 @@
 #include "table/controls.h"
 
-#include <QStyleOptionButton>
-#include <QStylePainter>
 #include <QTextOption>
 #include <algorithm>
 
@@ -121,11 +119,13 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
-    QStylePainter painter(this);
-    QStyleOptionButton option;
-    option.initFrom(this);
-    option.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
-    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    QPainter painter(this);
+    QLinearGradient satin(0, 0, 0, height());
+    satin.setColorAt(0, underMouse() ? colour::satinHot : colour::satinHigh);
+    satin.setColorAt(1, colour::satinLow);
+    painter.fillRect(rect(), satin);
+    const QColor light = Qt::white;
+    PaintEdges(painter, rect(), isDown() ? colour::satinEdge : light, isDown() ? light : colour::satinEdge);
     const QRect area = rect().adjusted(6, 4, -6, -4);
     const int lines = area.height() / fontMetrics().lineSpacing();
     const int room = area.width() * std::max(1, lines - 2);  // a broken line is never quite full
