@@ -4,17 +4,20 @@
 #include <QLockFile>
 #include <QStandardPaths>
 
-#include "app/qt_ports.h"
-#include "app/silent_sound.h"
-#include "dialogs/message_box.h"
-#include "dialogs/qt_dialogs.h"
+#include "app/desktop_shell.h"
+#include "app/seeded_random.h"
+#include "app/tick.h"
+#include "core/silent_ports.h"
+#include "dialogs/window/qt_dialogs.h"
+#include "kit/message_box.h"
+#include "kit/qt_clock.h"
+#include "kit/qt_timers.h"
 #include "sound/background_music.h"
 #include "store/settings_store.h"
 #include "store/top_score_files.h"
-#include "table/first_pictures.h"
-#include "table/frm_lucky_cup.h"
-#include "table/qt_timers.h"
 #include "table/table_parts.h"
+#include "table/window/first_pictures.h"
+#include "table/window/frm_lucky_cup.h"
 
 namespace {
 QString LockPath() {
@@ -38,18 +41,7 @@ struct Program {
     Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
         game.session.AppPath = programFolder;
         game.settings = store.LoadSettings();
-        timers.SetTick([this](Timer timer) { Tick(timer); });
-    }
-
-    void Tick(Timer timer) {
-        switch (timer) {
-            case Timer::Timer3:
-                return Timer3_Timer(game, music);
-            case Timer::Timer4:
-                return Timer4_Timer(game, music);
-            default:
-                return parts.Tick(game, timer);
-        }
+        timers.SetTick([this](Timer timer) { ::Tick(game, parts, music, timer); });
     }
 
     Art& art;
@@ -58,14 +50,15 @@ struct Program {
     QtTimers timers{gate};
     QtClock clock;
     SeededRandom random;
-    SilentSound sound;
+    SilentEffects effects;
+    SilentMedia media;
     QtDialogs dialogs{window, gate, art};
     TopScoreFiles scores;
     DesktopShell shell;
     RegistrySettings store;
     TableParts parts;
     BackgroundMusic music;
-    Game game{Ports{window, timers, clock, random, sound, sound, dialogs, scores, shell, store, parts}};
+    Game game{Ports{window, timers, clock, random, effects, media, dialogs, scores, shell, store, parts}};
 };
 }  // namespace
 

@@ -1,5 +1,5 @@
-#include "app/look.h"
 #include "app/luckycup.h"
+#include "kit/look.h"
 
 int main(int argc, char* argv[]) {
     PrepareLook();

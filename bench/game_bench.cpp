@@ -7,6 +7,7 @@
 #include "core/placement.h"
 #include "core/row_scores.h"
 #include "core/turn.h"
+#include "table/score_counter.h"
 
 namespace {
 
@@ -66,7 +67,7 @@ void PlayTurn(NullTable& table, int rolls) {
     if (OnlyOblgIsLeft(game) && !game.session.Announced) ClickFirstOffered(game, ScoreColumn::Oblg);
     for (int roll = 1; roll < rolls; ++roll) picRollDices_MouseUp(game);
     if (game.session.RollCount > 0 && !ClickFreeBox(game)) ClickFirstOffered(game, ScoreColumn::Oblg);
-    if (game.table[Timer::tmrCounter].enabled) table.parts.Tick(game, Timer::tmrCounter);
+    if (game.table.timers[Timer::tmrCounter].enabled) tmrCounter_Timer(game);
 }
 
 // From the load of the window to the last box, the score counter's runs included.

@@ -7,7 +7,7 @@
 
 #include "bench/null_table.h"
 #include "core/turn.h"
-#include "table/frm_lucky_cup.h"
+#include "table/window/frm_lucky_cup.h"
 
 namespace {
 

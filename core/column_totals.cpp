@@ -6,7 +6,7 @@ namespace {
 constexpr int bonusThreshold = 63;
 }
 
-int TotalValue(const Game& game, ScoreColumn column, TotalRow row) { return TextValue(game.card[column].Total(row)); }
+int TotalValue(const Game& game, ScoreColumn column, TotalRow row) { return TextValue(game.card[column].totals[row]); }
 
 void AddToTotal(Game& game, ScoreColumn column, TotalRow row, int points) {
     SetTotalText(game, column, row, std::to_string(TotalValue(game, column, row) + points));

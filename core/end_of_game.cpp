@@ -61,7 +61,7 @@ AfterCheck EndOneOfTwo(Game& game) {
 
 const std::string& PlayerOnMove(const Game& game) {
     const GameSettings& settings = game.settings;
-    const bool first = !TwoPlayers(settings) || game.table.Panel(1).text == settings.Player1;
+    const bool first = !TwoPlayers(settings) || game.table.panels[1].text == settings.Player1;
     return first ? settings.Player1 : settings.Player2;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "core/dice_set.h"
 #include "core/game_session.h"
 #include "core/game_settings.h"
@@ -9,21 +7,6 @@
 #include "core/ports.h"
 #include "core/scorecard.h"
 #include "core/table_state.h"
-#include "table/table_view.h"
-
-struct Ports {
-    TableView& view;
-    Timers& timers;
-    Clock& clock;
-    RandomSource& random;
-    SoundEffects& effects;
-    MediaService& media;
-    Dialogs& dialogs;
-    TopScores& scores;
-    Shell& shell;
-    SettingsStore& store;
-    MovingParts& parts;
-};
 
 // One game table: its records and the ports behind them. The ports outlive it.
 struct Game : Ports {
@@ -35,5 +18,5 @@ struct Game : Ports {
     Scorecard card;
     TableState table;
     ParkedBoard parked;
-    std::array<int, rowCount> TipRestore{};  // the tips that Undo shows again; 0 for none
+    ByRow<int> TipRestore{};  // the tips that Undo shows again; 0 for none
 };

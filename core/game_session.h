@@ -54,7 +54,7 @@ struct GameSession {
     int PrevTotal = 0;
     int PrevTotal2 = 0;
     int OtherTotal = 0;
-    std::array<int, rowCount> HintSnapshot{};
+    ByRow<int> HintSnapshot{};
     ByColumn<bool> BonusGiven;
     int RandUpperCount = 0;
     int OblgUpperCount = 0;

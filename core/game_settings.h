@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "core/scorecard.h"
+
 // The options, one field for each stored value. The initial values are those of a first run.
 struct GameSettings {
     int NumberOfDice = 5;  // the highest die index: 4 plays five dice, 5 plays six
@@ -25,4 +27,4 @@ struct GameSettings {
 
 inline bool FourColumns(const GameSettings& settings) { return settings.NumberOfColumns == 4; }
 inline bool TwoPlayers(const GameSettings& settings) { return settings.NumberOfPlayers == 2; }
-inline int BoardSize(const GameSettings& settings) { return FourColumns(settings) ? 52 : 13; }
+inline int BoardSize(const GameSettings& settings) { return FourColumns(settings) ? boxCount : rowCount; }

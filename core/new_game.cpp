@@ -132,7 +132,6 @@ void CloseLastGame(Game& game) {
     game.media.Send("close Intro");
     DisableTimer(game, Timer::Timer4);
     ShowHintColumn(game);
-    game.parts.ResetScoreCounter();
     game.view.BlankScoreCounter(CounterPicture::picScore);
     if (!TwoPlayers(game.settings)) return;
     game.view.BlankScoreCounter(CounterPicture::picPlayer1Score);

@@ -1,15 +1,13 @@
 #pragma once
 
-#include <array>
-
 #include "core/scorecard.h"
 
 // A parked value of 2000 or more stands for an empty text.
 inline constexpr int parkedEmpty = 2000;
 
 struct ParkedColumn {
-    std::array<int, rowCount> rows{};
-    std::array<int, 3> totals{};
+    ByRow<int> rows{};
+    ByTotalRow<int> totals{};
 };
 
 // The board of the player who is not on the table.

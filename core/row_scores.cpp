@@ -10,7 +10,7 @@ namespace {
 constexpr int scoredDice = 5;  // with six dice the best five count
 
 // How often each face lies on the table, by face; place 0 stays empty.
-using FaceCounts = std::array<int, facesOfADie + 1>;
+using FaceCounts = Indexed<int, facesOfADie + 1>;
 
 FaceCounts CountFaces(const DiceSet& dice) {
     FaceCounts counts{};
@@ -160,17 +160,17 @@ void ScoreFourOfAKind(Game& game) {
 
 void ScoreFiveOfAKind(Game& game) {
     Score(
-        game, [](const FaceCounts& counts) { return HighestOf(counts, 5) > 0 ? 100 : 0; }, WriteLowerRow);
+        game, [](const FaceCounts& counts) { return HighestOf(counts, 5) > 0 ? luckyCupPoints : 0; }, WriteLowerRow);
 }
 
 void ScoreRowOf(Game& game, int row) {
     using Routine = void (*)(Game&);
-    static constexpr std::array<Routine, rowCount - rowMax> routines{
-        ScoreMax, ScoreMin, ScoreThreeOfAKind, ScoreFullHouse, ScoreStraight, ScoreFourOfAKind, ScoreFiveOfAKind};
+    static constexpr Indexed<Routine, rowCount - rowMax, int, rowMax> routines{
+        {ScoreMax, ScoreMin, ScoreThreeOfAKind, ScoreFullHouse, ScoreStraight, ScoreFourOfAKind, ScoreFiveOfAKind}};
     if (row <= rowSixes)
         ScoreUpperRow(game, row + 1);
     else
-        routines[static_cast<std::size_t>(row - rowMax)](game);
+        routines[row](game);
 }
 
 void SortDice(DiceSet& dice) {

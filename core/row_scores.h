@@ -16,4 +16,6 @@ void ScoreFiveOfAKind(Game& game);
 
 void ScoreRowOf(Game& game, int row);  // the routine of row 0 to 12
 
+inline constexpr int luckyCupPoints = 100;
+
 void SortDice(DiceSet& dice);  // DiceValues 0 to LastDieIndex, ascending

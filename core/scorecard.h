@@ -1,7 +1,8 @@
 #pragma once
 
-#include <array>
 #include <string>
+
+#include "core/indexed.h"
 
 // The thirteen rows of the board, from the top. Used as an index 0 to 12.
 enum ScoreRow : int {
@@ -23,33 +24,33 @@ enum ScoreRow : int {
 
 constexpr bool IsRow(int row) { return row >= 0 && row < rowCount; }
 
+template <typename T>
+using ByRow = Indexed<T, rowCount>;
+
 // None stands for "no box is concerned". The others count from 1, as they do in the two-player record and the hints.
 enum class ScoreColumn { None, Down, Up, Rand, Oblg };
 inline constexpr std::array allColumns{ScoreColumn::Down, ScoreColumn::Up, ScoreColumn::Rand, ScoreColumn::Oblg};
 
+// Addressed by its column, which must not be None.
+template <typename T>
+using ByColumn = Indexed<T, allColumns.size(), ScoreColumn, 1>;
+
+inline constexpr int boxCount = rowCount * static_cast<int>(allColumns.size());  // of a four-column board
+
 enum class TotalRow { SubTotal, Product, ColumnTotal };
 inline constexpr std::array allTotalRows{TotalRow::SubTotal, TotalRow::Product, TotalRow::ColumnTotal};
 
-// One value for each column, addressed by its ScoreColumn (which must not be None).
 template <typename T>
-struct ByColumn {
-    std::array<T, 4> values{};
-
-    T& operator[](ScoreColumn column) { return values[static_cast<std::size_t>(column) - 1]; }
-    const T& operator[](ScoreColumn column) const { return values[static_cast<std::size_t>(column) - 1]; }
-    bool operator==(const ByColumn&) const = default;
-};
+using ByTotalRow = Indexed<T, allTotalRows.size(), TotalRow>;
 
 // A box or total is a text: empty means not written, anything else is a decimal integer, possibly negative.
 // "0" is a written box.
 struct ColumnCard {
-    std::array<std::string, rowCount> boxes;
-    std::array<std::string, 3> totals;
-    std::array<bool, rowCount> offered{};  // the box button is visible
-    std::array<bool, rowCount> enabled{};  // the box button takes clicks while it is visible
+    ByRow<std::string> boxes;
+    ByTotalRow<std::string> totals;
+    ByRow<bool> offered{};  // the box button is visible
+    ByRow<bool> enabled{};  // the box button takes clicks while it is visible
 
-    std::string& Total(TotalRow row) { return totals[static_cast<std::size_t>(row)]; }
-    const std::string& Total(TotalRow row) const { return totals[static_cast<std::size_t>(row)]; }
     bool operator==(const ColumnCard&) const = default;
 };
 

@@ -92,7 +92,7 @@ void SetBoxText(Game& game, ScoreColumn column, int row, std::string text) {
 }
 
 void SetTotalText(Game& game, ScoreColumn column, TotalRow row, std::string text) {
-    std::string& total = game.card[column].Total(row);
+    std::string& total = game.card[column].totals[row];
     total = std::move(text);
     game.view.SetTotalText(column, row, total);
 }
@@ -148,14 +148,14 @@ void SetWindowHeight(Game& game, int twips) {
 }
 
 void SetPanelText(Game& game, int k, std::string text) {
-    std::string& panel = game.table.Panel(k).text;
+    std::string& panel = game.table.panels[k].text;
     panel = std::move(text);
     game.view.SetPanelText(k, panel);
 }
 
 void SetPanelLayout(Game& game, int k, int width, bool visible) {
-    game.table.Panel(k).width = width;
-    game.table.Panel(k).visible = visible;
+    game.table.panels[k].width = width;
+    game.table.panels[k].visible = visible;
     game.view.SetPanelLayout(k, width, visible);
 }
 
@@ -198,19 +198,19 @@ void SetShowBoardCaption(Game& game, const std::string& name) {
 }
 
 void EnableTimer(Game& game, Timer timer) {
-    TimerState& state = game.table[timer];
+    TimerState& state = game.table.timers[timer];
     if (state.enabled) return;
     state.enabled = true;
     game.timers.Start(timer, state.interval);
 }
 
 void DisableTimer(Game& game, Timer timer) {
-    game.table[timer].enabled = false;
+    game.table.timers[timer].enabled = false;
     game.timers.Stop(timer);
 }
 
 void SetTimerInterval(Game& game, Timer timer, int ms) {
-    TimerState& state = game.table[timer];
+    TimerState& state = game.table.timers[timer];
     state.interval = ms;
     if (state.enabled) game.timers.Start(timer, ms);
 }

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "core/dice_set.h"
 #include "core/scorecard.h"
+#include "core/timer.h"
 
 enum class RollPicture { Up, On, Off };
-
-enum class Timer { tmrRollDice, tmrTimeElapsed, tmrGameOver, tmrAnimation, tmrCounter, Timer3, Timer4 };
-inline constexpr int timerCount = 7;
 
 struct TimerState {
     int interval = 0;  // ms
@@ -44,15 +41,15 @@ struct ShowBoardState {
 // What the window shows besides boxes and totals, as far as a rule, a tool or a test asks for it. The window is only
 // told; this is the truth.
 struct TableState {
-    std::array<DieState, maxDice> dice{{{.face = 1}, {.face = 2}, {.face = 3}, {.face = 4}, {.face = 5}, {.face = 6}}};
+    ByDie<DieState> dice{{{{.face = 1}, {.face = 2}, {.face = 3}, {.face = 4}, {.face = 5}, {.face = 6}}}};
     RollButtonState roll;
     int lamps = 0;  // lit lamps, from the left
 
-    std::array<std::string, rowCount> tips;  // empty or a decimal number
+    ByRow<std::string> tips;  // empty or a decimal number
     bool tipColumn = false;
-    std::array<bool, rowCount> highlighted{};
+    ByRow<bool> highlighted{};
 
-    std::array<PanelState, 5> panels;  // panels 1 to 5
+    Indexed<PanelState, 5, int, 1> panels;  // 1 to 5
     bool statusBar = true;
     int height = 0;  // of the whole window frame, twips
     std::string title;
@@ -65,10 +62,5 @@ struct TableState {
     ShowBoardState showBoard;
 
     // In the order of the enumeration.
-    std::array<TimerState, timerCount> timers{{{300}, {1000}, {150}, {1}, {10}, {500}, {1000}}};
-
-    PanelState& Panel(int number) { return panels[static_cast<std::size_t>(number - 1)]; }
-    const PanelState& Panel(int number) const { return panels[static_cast<std::size_t>(number - 1)]; }
-    TimerState& operator[](Timer timer) { return timers[static_cast<std::size_t>(timer)]; }
-    const TimerState& operator[](Timer timer) const { return timers[static_cast<std::size_t>(timer)]; }
+    ByTimer<TimerState> timers{{{{300}, {1000}, {150}, {1}, {10}, {500}, {1000}}}};
 };

@@ -34,9 +34,11 @@ void OpenTableForFirstRoll(Game& game) {
 // With nothing but Oblg boxes left a second roll without an announcement would leave no box to write.
 void RemindToAnnounce(Game& game) {
     GameSession& session = game.session;
-    if (session.BoxesFilled < 39 || session.RollCount != 1 || session.CurrentColumn == ScoreColumn::Oblg) return;
+    if (session.BoxesFilled < boxCount - rowCount || session.RollCount != 1 ||
+        session.CurrentColumn == ScoreColumn::Oblg)
+        return;
     const int open = EmptyBoxes(game.card[ScoreColumn::Oblg]);
-    if (open != 52 - session.BoxesFilled || open < 2) return;
+    if (open != boxCount - session.BoxesFilled || open < 2) return;
     SetRollOff(game);
     game.dialogs.ShowMessage({"Reminder", "You must announce now!", MessageIcon::Warning, MessageButtons::Ok});
     session.RollAllowed = false;
@@ -45,7 +47,7 @@ void RemindToAnnounce(Game& game) {
 // The very last box needs no click to be announced. The announcement counts as a roll, which is taken back here.
 void AnnounceLastBox(Game& game) {
     GameSession& session = game.session;
-    if (session.BoxesFilled != 51 || session.RollCount != 0) return;
+    if (session.BoxesFilled != boxCount - 1 || session.RollCount != 0) return;
     const auto& boxes = game.card[ScoreColumn::Oblg].boxes;
     const auto open = std::ranges::find(boxes, std::string());
     if (open == boxes.end()) return;
@@ -166,7 +168,7 @@ void PlayFanfare(Game& game) {
     ScoreFiveOfAKind(game);
     game.session.ComputeOnly = false;
     game.dice.DiceValues = lying;
-    if (game.session.RowScore == 100) game.effects.PlayEffect("LuckyCup");
+    if (game.session.RowScore == luckyCupPoints) game.effects.PlayEffect("LuckyCup");
 }
 
 void EndHintByRequest(Game& game) {

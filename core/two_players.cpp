@@ -12,7 +12,7 @@ std::string ParkedText(int value) { return value < parkedEmpty ? std::to_string(
 void SetUpParkedBoard(Game& game) {
     if (game.session.SecondBoardReady) return;
     ParkedBoard& parked = game.parked;
-    for (ParkedColumn& column : parked.columns.values) {
+    for (ParkedColumn& column : parked.columns) {
         column.rows.fill(parkedEmpty);
         column.totals.fill(parkedEmpty);
     }
@@ -32,8 +32,8 @@ void SwapColumn(Game& game, ScoreColumn column) {
         SetBoxText(game, column, row, ParkedText(std::exchange(parked.rows[row], toPark)));
     }
     for (TotalRow row : allTotalRows) {
-        const int toPark = ParkedValue(game.card[column].Total(row));
-        int& parkedTotal = parked.totals[static_cast<std::size_t>(row)];
+        const int toPark = ParkedValue(game.card[column].totals[row]);
+        int& parkedTotal = parked.totals[row];
         SetTotalText(game, column, row, ParkedText(std::exchange(parkedTotal, toPark)));
     }
 }
@@ -56,7 +56,7 @@ void SwapTable(Game& game) {
 
 bool FirstPlayerOnTable(const Game& game) {
     const std::string& player = game.settings.Player1;
-    return TitleNames(game, player) && game.table.Panel(1).text == player;
+    return TitleNames(game, player) && game.table.panels[1].text == player;
 }
 
 int HandOver(Game& game) {

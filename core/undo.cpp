@@ -97,7 +97,7 @@ void TakeBoxOut(Game& game) {
     if (row == rowOnes)
         TakeOutWithProduct(game, column, points);
     else if (row == rowMax || row == rowMin) {
-        if (!game.card[column].Total(TotalRow::Product).empty()) TakeOutWithProduct(game, column, 0);
+        if (!game.card[column].totals[TotalRow::Product].empty()) TakeOutWithProduct(game, column, 0);
     } else
         TakeOutOfTotals(game, column, points);
 }

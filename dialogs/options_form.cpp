@@ -48,7 +48,7 @@ namespace {
 // Runs while Player1 still has its old value, which tells whose name the window shows.
 void CarryNamesIntoWindow(Game& game, const OptionsForm& form) {
     if (!game.session.OpenedFromGame) return;
-    const bool first = game.table.Panel(1).text == game.settings.Player1;
+    const bool first = game.table.panels[1].text == game.settings.Player1;
     const std::string& shown = first ? form.txtName1 : form.txtName2;
     SetPanelText(game, 1, shown);
     SetTitleFor(game, shown);

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "table/art.h"
+#include "kit/art.h"
 
 namespace {
 

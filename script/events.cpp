@@ -5,11 +5,11 @@
 #include "core/hints.h"
 #include "core/new_game.h"
 #include "core/placement.h"
+#include "core/timer.h"
 #include "core/turn.h"
 #include "core/two_players.h"
 #include "core/undo.h"
 #include "script/options_changes.h"
-#include "script/timer_names.h"
 #include "table/commands.h"
 #include "table/main_window.h"
 
@@ -39,7 +39,7 @@ bool Key(ScriptTable& script, const ScriptLine& line) {
 bool Die(ScriptTable& script, const ScriptLine& line) {
     const int i = ParseNumber(line.Value(1), 0, maxDice - 1);
     Game& game = script.table.game;
-    const DieState& die = game.table.dice[static_cast<std::size_t>(i)];
+    const DieState& die = game.table.dice[i];
     if (!die.shown || !die.enabled) return false;
     if (die.held)
         PicDiceOff_Click(game, i);
@@ -53,11 +53,8 @@ struct BoxButton {
         : column(static_cast<ScoreColumn>(ParseNumber(line.Value(1), 1, 4))),
           row(ParseNumber(line.Value(2), 0, rowCount - 1)) {}
 
-    bool TakesInput(const Game& game) const {
-        const auto place = static_cast<std::size_t>(row);
-        return game.card[column].offered[place] && game.card[column].enabled[place];
-    }
-    bool& Hovered(ScriptTable& script) const { return script.hovered[column][static_cast<std::size_t>(row)]; }
+    bool TakesInput(const Game& game) const { return game.card[column].offered[row] && game.card[column].enabled[row]; }
+    bool& Hovered(ScriptTable& script) const { return script.hovered[column][row]; }
 
     ScoreColumn column;
     int row;
@@ -169,7 +166,7 @@ bool Tick(ScriptTable& script, const ScriptLine& line) {
     std::uint64_t ticks = 1;
     if (line.Values() == 2) ticks = ParseNumber(line.Value(2), ticks, UINT64_MAX);
 
-    const TimerState& state = script.table.game.table[timer];
+    const TimerState& state = script.table.game.table.timers[timer];
     if (!state.enabled) return false;
     for (; ticks > 0 && state.enabled; --ticks) script.table.Tick(timer);
     return true;

@@ -8,7 +8,7 @@ struct ScriptTable {
     HeadlessTable table;
     bool started = false;
     bool closed = false;
-    ByColumn<std::array<bool, rowCount>> hovered;  // the mouse moved onto the button and has not left it since
+    ByColumn<ByRow<bool>> hovered;  // the mouse moved onto the button and has not left it since
 };
 
 bool IsEvent(std::string_view command);

@@ -4,7 +4,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "core/ports.h"
+#include "core/silent_ports.h"
 #include "dialogs/options_form.h"
 #include "script/event_log.h"
 
@@ -19,7 +19,7 @@ using OptionsVisit = std::function<void(Game&, OptionsForm&)>;
 
 // Modal windows that run their load and close at once. What asks something takes the next queued answer; with an empty
 // queue that is Ok or Finish.
-class HeadlessDialogs final : public Dialogs {
+class HeadlessDialogs final : public SilentDialogs {
 public:
     explicit HeadlessDialogs(EventLog& log) : log_(log) {}
 
@@ -31,8 +31,6 @@ public:
     void frmTheWinerIs(Game& game) override;
     void frmScores2(Game& game) override;
     void frmOptions(Game& game) override;
-    void frmQuickStart(Game&) override {}
-    void frmAbout(Game&) override {}
 
 private:
     bool Confirmed(HeadlessAnswer yes, HeadlessAnswer no);

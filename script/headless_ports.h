@@ -4,23 +4,16 @@
 #include <deque>
 #include <memory>
 
-#include "core/ports.h"
+#include "core/silent_ports.h"
 #include "script/event_log.h"
 
 // The ports of a table without a window. Each writes what it was asked for into the log.
 
-class HeadlessTimers final : public Timers {  // nothing ticks by itself
-public:
-    void Start(Timer, int) override {}
-    void Stop(Timer) override {}
-};
-
-class HeadlessClock final : public Clock {
+class HeadlessClock final : public SilentClock {
 public:
     explicit HeadlessClock(EventLog& log) : log_(log) {}
 
     void Wait(int ms) override;
-    double TimeOfDay() override { return 0; }
     std::string ShortDate() override { return today; }
 
     std::string today = "2026-01-01";
@@ -72,19 +65,12 @@ public:
 
     int Record(int number, const ScoreRecord& record) override;
     bool TopScoreFileExists(int number) override { return scores_->TopScoreFileExists(number); }
-    std::array<ScoreRecord, scoreRecords> LoadTopScores(int number) override { return scores_->LoadTopScores(number); }
+    ScoreTable LoadTopScores(int number) override { return scores_->LoadTopScores(number); }
     void DeleteTopScores(int number) override { scores_->DeleteTopScores(number); }
 
 private:
     EventLog& log_;
     std::unique_ptr<TopScores> scores_;
-};
-
-class HeadlessShell final : public Shell {
-public:
-    void Open(const std::string&) override {}
-    void ShowHelpContents() override {}
-    void CloseHelp() override {}
 };
 
 class HeadlessStore final : public SettingsStore {

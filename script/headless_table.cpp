@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "app/tick.h"
 #include "store/top_score_files.h"
 #include "table/main_window.h"
 
@@ -21,13 +22,4 @@ void HeadlessTable::UseFolder(const std::string& folder) {
 
 void HeadlessTable::Load() { Form_Load(game); }
 
-void HeadlessTable::Tick(Timer timer) {
-    switch (timer) {
-        case Timer::Timer3:
-            return Timer3_Timer(game, music);
-        case Timer::Timer4:
-            return Timer4_Timer(game, music);
-        default:
-            return parts.Tick(game, timer);
-    }
-}
+void HeadlessTable::Tick(Timer timer) { ::Tick(game, parts, music, timer); }

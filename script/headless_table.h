@@ -21,14 +21,14 @@ struct HeadlessTable {
 
     EventLog log;
     HeadlessView view{log};
-    HeadlessTimers timers;
+    SilentTimers timers;
     HeadlessClock clock{log};
     HeadlessRandom random;
     HeadlessEffects effects{log};
     HeadlessMedia media{log};
     HeadlessDialogs dialogs{log};
     HeadlessScores scores{log};
-    HeadlessShell shell;
+    SilentShell shell;
     HeadlessStore store{log};
     TableParts parts;
     BackgroundMusic music;

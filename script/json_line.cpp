@@ -1,7 +1,7 @@
 #include "script/json_line.h"
 
+#include "core/timer.h"
 #include "script/json_writer.h"
-#include "script/timer_names.h"
 
 namespace {
 
@@ -16,15 +16,15 @@ void Object(JsonWriter& json, std::string_view name, Write write) {
 // One value for each item, in their order.
 template <typename Items, typename Of>
 auto Each(const Items& items, Of of) {
-    std::vector<decltype(of(items.front()))> values;
+    std::vector<decltype(of(*items.begin()))> values;
     for (const auto& item : items) values.push_back(of(item));
     return values;
 }
 
-std::vector<int> RowsOf(const std::array<bool, rowCount>& flags) {
+std::vector<int> RowsOf(const ByRow<bool>& flags) {
     std::vector<int> rows;
-    for (std::size_t row = 0; row < flags.size(); ++row)
-        if (flags[row]) rows.push_back(static_cast<int>(row));
+    for (int row = 0; row < rowCount; ++row)
+        if (flags[row]) rows.push_back(row);
     return rows;
 }
 
@@ -34,7 +34,7 @@ void Columns(JsonWriter& json, std::string_view name, const Scorecard& card, Of 
     constexpr std::array names{"Down", "Up", "Rand", "Oblg"};
     Object(json, name, [&] {
         for (std::size_t column = 0; column < names.size(); ++column)
-            json.Member(names[column], of(card.values[column]));
+            json.Member(names[column], of(card[allColumns[column]]));
     });
 }
 
@@ -77,7 +77,7 @@ void WriteBoard(JsonWriter& json, const GameSession& session) {
     json.Member("PrevTotal2", session.PrevTotal2);
     json.Member("OtherTotal", session.OtherTotal);
     json.Member("HintSnapshot", session.HintSnapshot);
-    json.Member("BonusGiven", session.BonusGiven.values);
+    json.Member("BonusGiven", session.BonusGiven);
     json.Member("RandUpperCount", session.RandUpperCount);
     json.Member("OblgUpperCount", session.OblgUpperCount);
     json.Member("SecondPlayerOnMove", session.SecondPlayerOnMove);
@@ -162,8 +162,8 @@ void WriteControls(JsonWriter& json, const TableState& table) {
 }
 
 void WriteTimers(JsonWriter& json, const TableState& table) {
-    for (std::size_t i = 0; i < timerNames.size(); ++i)
-        json.Member(timerNames[i], table.timers[i].enabled ? table.timers[i].interval : 0);
+    for (Timer timer : allTimers)
+        json.Member(timerNames[timer], table.timers[timer].enabled ? table.timers[timer].interval : 0);
 }
 
 void WriteCounter(JsonWriter& json, const HeadlessView& view) {

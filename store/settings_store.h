@@ -3,7 +3,7 @@
 #include <QSettings>
 #include <string>
 
-#include "core/ports.h"
+#include "core/ports/settings_store.h"
 
 // A value of the key, up to its first NUL. otherwise when it is missing or is no text. Texts are UTF-8.
 std::string RegGetString(const QSettings& key, const char* name, const std::string& otherwise);

@@ -3,7 +3,7 @@
 #include <QString>
 #include <string>
 
-#include "core/ports.h"
+#include "core/ports/top_scores.h"
 
 // The files scores/scores1.dat to scores/scores4.dat in the program's folder. The folder scores must exist. A file is
 // replaced in one step, so at any instant it holds the old or the new table. One that cannot be opened for reading and

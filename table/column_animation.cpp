@@ -23,9 +23,9 @@ void ShowEverySecond(Game& game, ScoreColumn column, int firstRow) {
     for (int row = firstRow; row < rowCount; row += 2) ShowBoxButton(game, column, row, true);
 }
 
-void ShowCell(Game& game, int cell) {
-    ShowBoxButton(game, allColumns[static_cast<std::size_t>(cell / rowCount)], cell % rowCount, true);
-}
+ScoreColumn ColumnOf(int place) { return static_cast<ScoreColumn>(place + 1); }  // from 0
+
+void ShowCell(Game& game, int cell) { ShowBoxButton(game, ColumnOf(cell / rowCount), cell % rowCount, true); }
 
 void End(Game& game) {
     SetRollEnabled(game, true);
@@ -60,15 +60,15 @@ void HalvesPassEachOther(Game& game, State& state) {
 
 // Kind 3: every second row, column by column, there and back.
 void EverySecondRow(Game& game, State& state) {
-    static constexpr std::array<std::pair<ScoreColumn, int>, 8> frames{
-        {{Down, 0}, {Up, 0}, {Rand, 0}, {Oblg, 0}, {Oblg, 1}, {Rand, 1}, {Up, 1}, {Down, 1}}};
+    static constexpr Indexed<std::pair<ScoreColumn, int>, 8> frames{
+        {{{Down, 0}, {Up, 0}, {Rand, 0}, {Oblg, 0}, {Oblg, 1}, {Rand, 1}, {Up, 1}, {Down, 1}}}};
     if (state.AnimStage == 0) {
         SetRollEnabled(game, false);
         SetTimerInterval(game, Timer::tmrAnimation, 50);
     }
     // Nothing sets it back: the animations after this one run at this pace.
     if (state.AnimStage == 5) SetTimerInterval(game, Timer::tmrAnimation, 5);
-    const auto& [column, firstRow] = frames[static_cast<std::size_t>(state.AnimStage)];
+    const auto& [column, firstRow] = frames[state.AnimStage];
     ShowEverySecond(game, column, firstRow);
     if (++state.AnimStage == static_cast<int>(frames.size())) End(game);
 }
@@ -77,8 +77,8 @@ void EverySecondRow(Game& game, State& state) {
 void EdgesThenHalves(Game& game, State& state) {
     if (state.AnimStage == 0) SetRollEnabled(game, false);
     if (state.AnimStage < 4) {
-        ShowBoxButton(game, allColumns[static_cast<std::size_t>(state.AnimStage)], 0, true);
-        ShowBoxButton(game, allColumns[static_cast<std::size_t>(3 - state.AnimStage)], lastRow, true);
+        ShowBoxButton(game, ColumnOf(state.AnimStage), 0, true);
+        ShowBoxButton(game, ColumnOf(3 - state.AnimStage), lastRow, true);
         ++state.AnimStage;
         return;
     }
@@ -229,10 +229,10 @@ void RandOutAndIn(Game& game, State& state) {
 }
 
 using Frame = void (*)(Game&, State&);
-constexpr std::array<Frame, 9> fourColumnFrames{CloseAndOpen,    HalvesPassEachOther, EverySecondRow,
-                                                EdgesThenHalves, OuterAndInner,       Scatter,
-                                                InnerThenOuter,  UpAndDown,           Spiral};
-constexpr std::array<Frame, 4> oneColumnFrames{RowByRow, RowByRow, RandInAndOut, RandOutAndIn};
+constexpr Indexed<Frame, 9, int, 1> fourColumnFrames{{CloseAndOpen, HalvesPassEachOther, EverySecondRow,
+                                                      EdgesThenHalves, OuterAndInner, Scatter, InnerThenOuter,
+                                                      UpAndDown, Spiral}};
+constexpr Indexed<Frame, 4, int, 1> oneColumnFrames{{RowByRow, RowByRow, RandInAndOut, RandOutAndIn}};
 
 }  // namespace
 
@@ -259,13 +259,12 @@ void ShuffleBoxOrder(Game& game, State& state) {
 }
 
 void tmrAnimation_Timer(Game& game, State& state) {
-    const auto kind = static_cast<std::size_t>(state.AnimKind - 1);
     const bool fourColumns = FourColumns(game.settings);
     // A change of the variant hands a running pattern to the other layout, which may not have it or stand at no row.
-    const bool inBoth = kind < oneColumnFrames.size();
+    const bool inBoth = state.AnimKind <= static_cast<int>(oneColumnFrames.size());
     if (inBoth ? !IsRow(state.AnimIndex) : !fourColumns) return End(game);
     if (fourColumns)
-        fourColumnFrames[kind](game, state);
+        fourColumnFrames[state.AnimKind](game, state);
     else
-        oneColumnFrames[kind](game, state);
+        oneColumnFrames[state.AnimKind](game, state);
 }

@@ -9,28 +9,30 @@ namespace {
 
 using enum CounterPicture;
 
-enum Digit : std::size_t { units, tens, hundreds, thousands };
+using CounterDigits = Indexed<int, 4>;  // units first
+using CounterPlaces = Indexed<int, 4>;
 
-// Pixels. Numbers are centred, so the places depend on how many digits are shown.
+enum Digit : int { units, tens, hundreds, thousands };
+
+// Pixels, by the number of digits. Numbers are centred, so the places depend on how many digits are shown.
 struct Positions {
-    std::array<int, 4> digit;  // units first; a digit that is not shown has no place
+    CounterPlaces digit;  // units first; a digit that is not shown has no place
     int minus;
 };
 
-constexpr std::array<Positions, 5> positionsFor{{
-    {{0, 0, 0, 0}, 0},
-    {{75, 0, 0, 0}, 62},
-    {{81, 68, 0, 0}, 55},
-    {{88, 75, 62, 0}, 49},
-    {{94, 81, 68, 55}, 0},
-}};
+constexpr Indexed<Positions, 4, int, 1> positionsFor{{{
+    {{{75, 0, 0, 0}}, 62},
+    {{{81, 68, 0, 0}}, 55},
+    {{{88, 75, 62, 0}}, 49},
+    {{{94, 81, 68, 55}}, 0},
+}}};
 
 // Of two digits or more; where a carry has moved the places, zeros are drawn again there.
 constexpr int zeroOfHundreds = 88;
 constexpr int zeroOfThousands = 94;
 constexpr int tenZeroOfThousands = 81;
 
-CounterDigits DigitsOf(int n) { return {n % 10, n / 10 % 10, n / 100 % 10, n / 1000}; }
+CounterDigits DigitsOf(int n) { return {{n % 10, n / 10 % 10, n / 100 % 10, n / 1000}}; }
 
 int DigitCount(int n) {
     if (n < 10) return 1;
@@ -45,14 +47,13 @@ int StepDelay(int rise) {
     return rise < 60 ? 20 : 10;
 }
 
-void DrawDirectly(Game& game, ScoreCounterState& state, int value) {
-    state.digits = DigitsOf(value);
+void DrawDirectly(Game& game, int value) {
+    const CounterDigits digits = DigitsOf(value);
     game.view.CopyPicture(picScoreB, picBuffer2);
     const int count = DigitCount(value);
-    const Positions& places = positionsFor[static_cast<std::size_t>(count)];
+    const Positions& places = positionsFor[count];
     if (game.session.Total < 0 && value < 1000) game.view.DrawMinus(picBuffer2, places.minus);
-    for (std::size_t d = 0; d < static_cast<std::size_t>(count); ++d)
-        game.view.DrawDigit(picBuffer2, state.digits[d], places.digit[d]);
+    for (int d = 0; d < count; ++d) game.view.DrawDigit(picBuffer2, digits[d], places.digit[d]);
     game.view.CopyPicture(picBuffer2, picScore);
     game.view.RefreshCounter();
     game.view.CopyPicture(picScore, picBuffer0);
@@ -61,26 +62,30 @@ void DrawDirectly(Game& game, ScoreCounterState& state, int value) {
 // One run of the odometer, point by point.
 class Count {
 public:
-    Count(Game& game, ScoreCounterState& state, int target)
-        : game_(game), state_(state), start_(state.digits), target_(DigitsOf(target)) {
+    Count(Game& game, int from, int target)
+        : game_(game),
+          start_(DigitsOf(from)),
+          target_(DigitsOf(target)),
+          digits_(start_),
+          digitCount_(DigitCount(from)) {
         TakePositions();
     }
 
     void Run(int delay) {
-        while (state_.digits != target_) Round(delay);
+        while (digits_ != target_) Round(delay);
         RedrawZeros();
     }
 
 private:
-    int& At(Digit digit) { return state_.digits[digit]; }
+    int& At(Digit digit) { return digits_[digit]; }
 
-    void TakePositions() { x_ = positionsFor[static_cast<std::size_t>(state_.digitCount)].digit; }
+    void TakePositions() { x_ = positionsFor[digitCount_].digit; }
 
     void Draw(Digit digit, int x) { game_.view.DrawDigit(picScore, At(digit), x); }
 
     bool AboveAtTarget(Digit digit) const {
-        for (std::size_t above = digit + 1; above <= thousands; ++above)
-            if (state_.digits[above] != target_[above]) return false;
+        for (int above = digit + 1; above <= thousands; ++above)
+            if (digits_[above] != target_[above]) return false;
         return true;
     }
 
@@ -96,8 +101,8 @@ private:
 
     // The first carry into a digit: it may be one that is not shown yet.
     void MakeRoom(Digit digit) {
-        if (state_.digitCount == static_cast<int>(digit)) {
-            ++state_.digitCount;
+        if (digitCount_ == static_cast<int>(digit)) {
+            ++digitCount_;
             TakePositions();
         }
         game_.view.EraseDigit(x_[digit]);
@@ -141,16 +146,17 @@ private:
     }
 
     Game& game_;
-    ScoreCounterState& state_;
     const CounterDigits start_;
     const CounterDigits target_;
-    std::array<int, 4> x_{};
+    CounterDigits digits_;  // shown now
+    int digitCount_;        // of them are shown, 1 to 4
+    CounterPlaces x_{};
     bool thousandsMoved_ = false;
 };
 
-void CountUp(Game& game, ScoreCounterState& state) {
+void CountUp(Game& game) {
     const GameSession& session = game.session;
-    Count count(game, state, session.Total);
+    Count count(game, session.PrevTotal, session.Total);
     if (session.Total > 0) PlayEffect(game, "counter7");
     count.Run(StepDelay(session.Total - session.PrevTotal));
     game.view.CopyPicture(picScore, picBuffer0);
@@ -166,22 +172,20 @@ void ShowUnchanged(Game& game) {
 
 }  // namespace
 
-void ScoreCounter(Game& game, ScoreCounterState& state) {
+void ScoreCounter(Game& game) {
     GameSession& session = game.session;
     session.CounterRan = true;
     game.view.CopyPicture(picScore, picBuffer1);
     game.view.CopyPicture(picScore, picBuffer0);
-    state.digits = DigitsOf(session.PrevTotal);
-    if (session.PrevTotal >= 0) state.digitCount = DigitCount(session.PrevTotal);
     if (session.Total == session.PrevTotal && session.Total >= 0)
         ShowUnchanged(game);
     else if (session.Total < session.PrevTotal || session.Total < 0 || session.PrevTotal < 0)
-        DrawDirectly(game, state, std::abs(session.Total));
+        DrawDirectly(game, std::abs(session.Total));
     else
-        CountUp(game, state);
+        CountUp(game);
 }
 
-void tmrCounter_Timer(Game& game, ScoreCounterState& state) {
-    if (!std::exchange(game.session.CounterSkip, false)) ScoreCounter(game, state);
+void tmrCounter_Timer(Game& game) {
+    if (!std::exchange(game.session.CounterSkip, false)) ScoreCounter(game);
     DisableTimer(game, Timer::tmrCounter);
 }

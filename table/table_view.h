@@ -9,6 +9,9 @@
 // The counter's pictures, each of 160 x 22 pixels. picScore is the one on screen, picScoreB the blank display.
 enum class CounterPicture { picScore, picScoreB, picBuffer0, picBuffer1, picBuffer2, picPlayer1Score, picPlayer2Score };
 
+template <typename T>
+using ByCounterPicture = Indexed<T, 7, CounterPicture>;
+
 // The three choices that the menu shows as pairs of entries, of which the checked one does nothing.
 enum class MenuChoice { Hints, Sounds, Music };
 

@@ -32,14 +32,14 @@ const Pattern patterns[] = {
 
 // Kind 6, by a shuffle of its own: three cells to a frame.
 Pattern Scattered(HeadlessRandom source) {
-    std::array<int, 52> order{};
+    std::array<std::size_t, 52> order{};
     std::iota(order.begin(), order.end(), 0);
-    for (int step = 0; step < 3 * 104; ++step) {
-        const int i = step % 104 < 52 ? 51 - step % 104 : step % 104 - 52;
-        std::swap(order.at(i), order.at(static_cast<int>(source.Next() * i + 1)));
+    for (std::size_t step = 0; step < 3 * 104; ++step) {
+        const std::size_t i = step % 104 < 52 ? 51 - step % 104 : step % 104 - 52;
+        std::swap(order.at(i), order.at(static_cast<std::size_t>(source.Next() * static_cast<double>(i) + 1)));
     }
     Pattern pattern{4, 6, 18, {none, none, none, none}};
-    for (int i = 0; i < 52; ++i) pattern.boxes[order[i] / 13][order[i] % 13] = frameNames[i / 3];
+    for (std::size_t i = 0; i < 52; ++i) pattern.boxes[order[i] / 13][order[i] % 13] = frameNames[i / 3];
     return pattern;
 }
 
@@ -85,7 +85,7 @@ struct AnimatedTable : PlayedTable {
         EXPECT_TRUE(game.table.roll.enabled);
     }
 
-    const TimerState& animation = game.table[Timer::tmrAnimation];
+    const TimerState& animation = game.table.timers[Timer::tmrAnimation];
 };
 
 // Each pattern begins anew while another is running, which a roll has overtaken.

@@ -72,7 +72,7 @@ TEST(Announce, ReminderComesOnlyWhereNoOtherBoxIsOpen) {
 TEST(Announce, LastBoxIsAnnouncedByTheFirstRoll) {
     PlayedTable t(fiveDice);
     FillBoard(t, 13, 12);
-    const std::string& total = t.game.card[ScoreColumn::Oblg].Total(TotalRow::ColumnTotal);
+    const std::string& total = t.game.card[ScoreColumn::Oblg].totals[TotalRow::ColumnTotal];
     const int before = TextValue(total);
     Play(t,
          {{"roll 6 6 6 6 6", "effect announce, effect rollAll, frames, effect LuckyCup", "up 1 66666 FFFFF 0 0 0 1 =0"},

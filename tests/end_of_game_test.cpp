@@ -66,8 +66,9 @@ struct EndingGame : PlayedTable {
                (shown.showBoard.visible && shown.showBoard.enabled ? "board " : "") + (shown.undo ? "undo " : "") +
                (shown.redo ? "redo " : "") + (session.GameInProgress ? "progress " : "") +
                (session.GameOverShown ? "over " : "") + (session.EndGameSeen ? "seen " : "") +
-               (shown[Timer::tmrCounter].enabled ? "counter " : "") +
-               (shown[Timer::tmrGameOver].enabled ? "message " : "") + (shown[Timer::Timer4].enabled ? "intro " : "");
+               (shown.timers[Timer::tmrCounter].enabled ? "counter " : "") +
+               (shown.timers[Timer::tmrGameOver].enabled ? "message " : "") +
+               (shown.timers[Timer::Timer4].enabled ? "intro " : "");
     }
 
     std::string Expected() const {
@@ -102,8 +103,8 @@ struct EndingGame : PlayedTable {
     bool scores = true;   // the last box is worth something
     bool undone = false;  // the player takes it back when asked
     std::function<int()> record = [this] {
-        EXPECT_TRUE(game.table.Panel(2).text == " " && !game.session.GameInProgress &&
-                    !game.table[Timer::Timer3].enabled);
+        EXPECT_TRUE(game.table.panels[2].text == " " && !game.session.GameInProgress &&
+                    !game.table.timers[Timer::Timer3].enabled);
         return place;
     };
 };
@@ -116,7 +117,7 @@ TEST(EndOfGame, EachPathWithEachKindOfLastBox) {
             EndingGame ending(variant % 2 + 1, box, mix % 3 == 0);
             ending.scores = variant / 2 % 2 == 0;
             ending.place = mix % 4 < 2 ? 20 : -1;
-            ending.rolls = std::array{1, 2, 3, 1, 2}[variant / 4];
+            ending.rolls = variant / 4 % 3 + 1;
             const GameSession& session = ending.game.session;
             for (int player = 0; player <= ending.two; ++player) {
                 ending.second = player == 1;

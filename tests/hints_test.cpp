@@ -25,17 +25,17 @@ TEST(Hints, ShowWhatEveryThrowIsWorthInOpenRows) {
     std::mt19937 random(1);
     for (int number = 0; number < 6 * 6 * 6 * 6 * 6; ++number) {
         for (int i = 0, rest = number; i < 5; ++i, rest /= 6) game.dice.DiceValues[i] = rest % 6 + 1;
-        for (ColumnCard& column : game.card.values)
+        for (ColumnCard& column : game.card)
             for (bool& offered : column.offered) offered = random() % 6 == 0;
         session.RollCount = static_cast<int>(random() % 3) + 1;
         session.CurrentRow = static_cast<int>(random() % rowCount);
         const auto lying = game.dice.DiceValues;
-        std::array<std::string, rowCount> expected;
+        ByRow<std::string> expected;
         session.ComputeOnly = true;
         SortDice(game.dice);
         for (int row = 0; row < rowCount; ++row) {
             ScoreRowOf(game, row);
-            for (const ColumnCard& column : game.card.values)
+            for (const ColumnCard& column : game.card)
                 if (column.offered[row] && session.RowScore > 0) expected[row] = std::to_string(session.RowScore);
         }
         session.RowScore = 50;

@@ -31,7 +31,7 @@ TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
         const GameSettings settings = Variant(seed), next = Variant(seed / 8 % 2 == 0 ? seed : random());
         PlayedTable played(settings), fresh(next);
         PlayAtRandom(played, random, random() % 3000);
-        played.game.session.BonusGiven.values.fill(true);  // seldom earned at random
+        played.game.session.BonusGiven.fill(true);  // seldom earned at random
         std::ostringstream options;
         options << "options NumberOfDice=" << next.NumberOfDice << " NumberOfPlayers=" << next.NumberOfPlayers
                 << " NumberOfColumns=" << next.NumberOfColumns;
@@ -80,8 +80,8 @@ TEST(NewGame, AfterTheEndAsksNothing) {
     over.PlayGame(1, [](const std::string&) {});
     over.Do("tick tmrGameOver 3;new");
     EXPECT_EQ(Shortened(over.table.log), closed);
-    EXPECT_FALSE(over.game.table[Timer::tmrGameOver].enabled || over.game.table[Timer::Timer4].enabled);
-    EXPECT_TRUE(over.game.table[Timer::Timer3].enabled);
+    EXPECT_FALSE(over.game.table.timers[Timer::tmrGameOver].enabled || over.game.table.timers[Timer::Timer4].enabled);
+    EXPECT_TRUE(over.game.table.timers[Timer::Timer3].enabled);
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ TEST(Options, InTheRunningGame) {
                 "height settings.ShowStatusBar statusBar ");
     PlayedTable t({.NumberOfPlayers = 2, .Player1 = "Ann", .Player2 = "Bo"});
     const auto shown = [&] {
-        return t.game.table.Panel(1).text + '|' + t.game.table.title + '|' + t.game.table.showBoard.caption;
+        return t.game.table.panels[1].text + '|' + t.game.table.title + '|' + t.game.table.showBoard.caption;
     };
     t.Do("roll;box 3 6;options Player1=Eve");
     EXPECT_EQ(shown(), "Eve|Lucky Cup - Eve|    Show      Eve's  Board");

@@ -37,8 +37,8 @@ ByColumn<int> CheckBoard(const Game& game) {
         const bool bonus = upperRows == 6 && upper[name] >= 63;
         const int subTotal = upper[name] + (bonus ? 35 : 0);
         const auto textIf = [](bool shown, int number) { return shown ? std::to_string(number) : std::string(); };
-        EXPECT_EQ(column.totals, (std::array{textIf(upperRows > 0, subTotal), textIf(complete, product),
-                                             textIf(upperRows + lowerRows > 0, subTotal + product + lower)}));
+        EXPECT_EQ(column.totals.values, (std::array{textIf(upperRows > 0, subTotal), textIf(complete, product),
+                                                    textIf(upperRows + lowerRows > 0, subTotal + product + lower)}));
         EXPECT_EQ(game.session.BonusGiven[name], bonus);
         const int written = upperRows + middleRows + lowerRows;
         for (int row = 0; row < rowCount; ++row)
@@ -86,7 +86,7 @@ TEST(Placement, KeepsTheBoardInOrderWithABonusAt63AndNoneAt62) {
         EXPECT_TRUE(seen.contains({column, 62}) && seen.contains({column, 63})) << static_cast<int>(column);
 }
 
-std::string Counting(const Game& game) { return game.table[Timer::tmrCounter].enabled ? "soon" : "done"; }
+std::string Counting(const Game& game) { return game.table.timers[Timer::tmrCounter].enabled ? "soon" : "done"; }
 
 TEST(Placement, SoundAndCounterGoByTheWorthOfTheBox) {
     PlayedTable t(fiveDice);

@@ -26,7 +26,7 @@ TEST(StatusBar, ReadsRightAfterEveryEventOfAGame) {
                 if (session.BoxesFilled == BoardSize(t.game.settings)) texts[1] = "";
             }
             for (std::size_t k = 0; k < texts.size(); ++k)
-                ASSERT_EQ(t.game.table.panels[k].text, texts[k]) << "panel " << k + 1 << " after " << event;
+                ASSERT_EQ(t.game.table.panels[k + 1].text, texts[k]) << "panel " << k + 1 << " after " << event;
         });
     }
 }
@@ -42,11 +42,11 @@ TEST(StatusBar, LayoutAndHeightByVariant) {
         EXPECT_EQ(table.statusBar, i % 2 == 0 || i >= 4);
         const std::array<int, 4> widths = i < 4 ? std::array{1, 2550, 1, 1230} : std::array{2000, 1, 1630, 1};
         for (std::size_t k = 0; k < widths.size(); ++k)
-            EXPECT_TRUE(table.panels[k].width == widths[k] && table.panels[k].visible == (widths[k] > 1)) << k;
+            EXPECT_TRUE(table.panels[k + 1].width == widths[k] && table.panels[k + 1].visible == (widths[k] > 1)) << k;
     }
     PlayedTable t;
     t.Do("roll;options ShowStatusBar=False");
-    EXPECT_EQ(t.game.table.Panel(2).text, "Roll the dice") << "the bar is laid out anew in the middle of a turn";
+    EXPECT_EQ(t.game.table.panels[2].text, "Roll the dice") << "the bar is laid out anew in the middle of a turn";
     EXPECT_EQ(t.game.table.height, 8300);
 }
 
@@ -63,7 +63,7 @@ TEST(StatusBar, ClockRunsFromTheLoadOverMidnight) {
           Moment{"roll;new;tick tmrTimeElapsed 3602", "01:01:01"}, Moment{"tick tmrTimeElapsed 82738", "23:59:59"},
           Moment{"tick tmrTimeElapsed", "00:00:00"}, Moment{"tick tmrTimeElapsed", "00:00:01"}}) {
         t.Do(moment.events);
-        EXPECT_EQ(t.game.table.Panel(5).text, moment.text) << moment.events;
+        EXPECT_EQ(t.game.table.panels[5].text, moment.text) << moment.events;
     }
 }
 
@@ -84,13 +84,13 @@ TEST(StatusBar, InstructionsAroundAGame) {
               Moment{"tick tmrAnimation 1000;roll;new;tick tmrRollDice;tick tmrAnimation 1000", ""},
               Moment{"roll", "Place your score or roll the dice"}}) {
             t.Do(moment.events);
-            const TimerState& timer = t.game.table[Timer::tmrGameOver];
-            EXPECT_EQ(t.game.table.Panel(2).text, moment.text) << moment.events;
+            const TimerState& timer = t.game.table.timers[Timer::tmrGameOver];
+            EXPECT_EQ(t.game.table.panels[2].text, moment.text) << moment.events;
             EXPECT_EQ(timer.enabled ? timer.interval : 0, moment.interval) << moment.events;
-            EXPECT_EQ(t.game.table.Panel(4).text.empty(), moment.events != "roll" && moment.interval != 1);
+            EXPECT_EQ(t.game.table.panels[4].text.empty(), moment.events != "roll" && moment.interval != 1);
         }
         t.Do("tick tmrRollDice");
-        EXPECT_EQ(t.game.table.Panel(2).text, "Roll the dice") << "a roll does not stop it";
+        EXPECT_EQ(t.game.table.panels[2].text, "Roll the dice") << "a roll does not stop it";
         EXPECT_FALSE(t.Takes("tick tmrRollDice"));
     }
 }

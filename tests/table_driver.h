@@ -41,7 +41,7 @@ struct PlayedTable : ScriptTable {
     std::vector<std::string> OpenEvents() const {
         std::vector<std::string> open;
         if (game.table.roll.enabled) open.push_back(game.table.nextPlayer ? "next" : "roll");
-        if (game.table[Timer::tmrCounter].enabled) open.push_back("tick tmrCounter");
+        if (game.table.timers[Timer::tmrCounter].enabled) open.push_back("tick tmrCounter");
         for (std::size_t i = 0; i < maxDice; ++i)
             if (game.table.dice[i].shown && game.table.dice[i].enabled) open.push_back("die " + std::to_string(i));
         for (std::size_t box = 0; box < 4 * rowCount; ++box) {

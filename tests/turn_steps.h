@@ -18,7 +18,7 @@ inline std::string Look(const Game& game) {
     look += ' ';
     for (const DieState& die : table.dice)
         if (die.shown) look += die.held ? (die.enabled ? 'H' : 'h') : (die.enabled ? 'F' : 'f');
-    for (const ColumnCard& column : game.card.values) {
+    for (const ColumnCard& column : game.card) {
         int open = 0;
         for (std::size_t row = 0; row < rowCount; ++row) open += column.offered[row] && column.enabled[row];
         look += ' ' + std::to_string(open);

@@ -40,10 +40,10 @@ struct Match {
     void Check(const std::string& notSwapped = " ") const {
         EXPECT_EQ(Differences(OwnOf(both), OwnOf(ones[mover]), notSwapped + (equalNames ? "picScore " : "")), "");
         EXPECT_EQ(both.game.table.title, "Lucky Cup - " + names[mover]);
-        EXPECT_EQ(both.game.table.Panel(1).text, names[mover]);
+        EXPECT_EQ(both.game.table.panels[1].text, names[mover]);
         const int first = ones[0].game.session.Total, second = ones[1].game.session.Total;
         if (equalNames) return;
-        EXPECT_EQ(both.game.table.Panel(3).text, std::to_string(first) + " : " + std::to_string(second));
+        EXPECT_EQ(both.game.table.panels[3].text, std::to_string(first) + " : " + std::to_string(second));
     }
 
     PlayedTable both;

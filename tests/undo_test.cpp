@@ -60,7 +60,8 @@ struct UndoGame : PlayedTable {
         Do("undo");
         const QJsonObject undone = StateOf(*this);
         for (std::size_t i = 0; i < 12; ++i)
-            EXPECT_EQ(TextValue(game.card.values[i / 3].totals[i % 3]), TextValue(card.values[i / 3].totals[i % 3]));
+            EXPECT_EQ(TextValue(game.card.values[i / 3].totals.values[i % 3]),
+                      TextValue(card.values[i / 3].totals.values[i % 3]));
         const std::string changed =
             leftOver + roll + (third ? "dice.shown " : "") + (repairs ? "" : "session.PrevTotal ") +
             (otherTips                   ? "session.MayHint tips "

@@ -9,17 +9,17 @@
 #include <QTest>
 #include <random>
 
+#include "app/tick.h"
 #include "core/show.h"
-#include "dialogs/qt_dialogs.h"
+#include "dialogs/window/qt_dialogs.h"
+#include "kit/qt_timers.h"
 #include "script/headless_ports.h"
-#include "sound/background_music.h"
 #include "store/top_score_files.h"
-#include "table/frm_lucky_cup.h"
 #include "table/main_window.h"
-#include "table/qt_timers.h"
 #include "table/row_names.h"
 #include "table/set_controls.h"
 #include "table/table_parts.h"
+#include "table/window/frm_lucky_cup.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ struct WindowTable {
     explicit WindowTable(const GameSettings& settings = {}) {
         QDir(folder.path()).mkdir("scores");
         game.settings = settings;
-        timers.SetTick([this](Timer timer) { parts.Tick(game, timer); });
+        timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
         answerer.callOnTimeout([this] {
             QWidget* modal = QApplication::activeModalWidget();
             if (!modal || !modal->isActiveWindow() || modal->property("answered").toBool()) return;
@@ -92,6 +92,7 @@ struct WindowTable {
     LoggingShell shell{log};
     HeadlessStore store{log};
     TableParts parts;
+    BackgroundMusic music;
     Game game{Ports{window, timers, clock, random, effects, media, dialogs, scores, shell, store, parts}};
     QHash<QString, QWidget*> named;
     QTimer answerer;
@@ -103,13 +104,12 @@ void ExpectBoardShown(WindowTable& t) {
         const ColumnCard& card = t.game.card[column];
         const QString name = ColumnName(column);
         for (int row = 0; row < rowCount; ++row) {
-            const auto at = static_cast<std::size_t>(row);
-            EXPECT_EQ(t.Text("lbl" + name, row), card.boxes[at]);
-            EXPECT_EQ(t.Shown("cmd" + name, row), card.offered[at]) << name.toStdString() << row;
-            EXPECT_EQ(t.At("cmd" + name, row).isEnabled(), card.enabled[at]) << name.toStdString() << row;
+            EXPECT_EQ(t.Text("lbl" + name, row), card.boxes[row]);
+            EXPECT_EQ(t.Shown("cmd" + name, row), card.offered[row]) << name.toStdString() << row;
+            EXPECT_EQ(t.At("cmd" + name, row).isEnabled(), card.enabled[row]) << name.toStdString() << row;
         }
-        const std::array suffixes{"Tot1", "Tot2", "Tot"};
-        for (std::size_t i = 0; i < suffixes.size(); ++i) EXPECT_EQ(t.Text("lbl" + name + suffixes[i]), card.totals[i]);
+        const ByTotalRow<QString> suffixes{{"Tot1", "Tot2", "Tot"}};
+        for (TotalRow row : allTotalRows) EXPECT_EQ(t.Text("lbl" + name + suffixes[row]), card.totals[row]);
     }
 }
 
@@ -143,8 +143,8 @@ void ExpectShown(WindowTable& t) {
         EXPECT_EQ(t.Shown("lblTip", row), table.tipColumn);
     }
     for (int k = 1; k <= 5; ++k) {
-        EXPECT_EQ(t.Text("StatusBar1", k), table.Panel(k).text);
-        EXPECT_EQ(t.At("StatusBar1", k).isHidden(), k < 5 && !table.Panel(k).visible);
+        EXPECT_EQ(t.Text("StatusBar1", k), table.panels[k].text);
+        EXPECT_EQ(t.At("StatusBar1", k).isHidden(), k < 5 && !table.panels[k].visible);
     }
     EXPECT_EQ(t.window.windowTitle().toStdString(), table.title);
     EXPECT_EQ(t.Shown("StatusBar1"), table.statusBar);
@@ -188,7 +188,7 @@ TEST_P(WholeGame, IsPlayedWithTheMouse) {
         const std::vector<QString> open = OpenControls(t);
         ASSERT_FALSE(open.empty());
         t.Click(open[random() % open.size()]);
-        QTest::qWait(t.game.table[Timer::tmrCounter].enabled ? 12 : 0);
+        QTest::qWait(t.game.table.timers[Timer::tmrCounter].enabled ? 12 : 0);
         ExpectShown(t);
     }
     EXPECT_EQ(t.game.session.BoxesFilled, BoardSize(GetParam()));

@@ -1,0 +1,30 @@
+#include "dialogs/window/dialog_window.h"
+
+#include "kit/controls.h"
+#include "kit/pointers.h"
+#include "kit/twips.h"
+
+DialogWindow::DialogWindow(QWidget& owner, const char* name, const char* caption, int widthInTwips, int heightInTwips)
+    : QDialog(&owner), owner_(owner) {
+    setObjectName(name);
+    setWindowTitle(caption);
+    setFixedSize(Pixels(widthInTwips), Pixels(heightInTwips));
+    setFont(TableFont(false));
+}
+
+void DialogWindow::PlaceOverOwner(int twipsBelow) {
+    // Its own frame is not known before it is shown; it is as thick as that of the owner.
+    const QRect outer = owner_.frameGeometry();
+    const QSize frame = size() + outer.size() - owner_.size();
+    move(outer.left() + (outer.width() - frame.width()) / 2,
+         outer.top() + (outer.height() - frame.height()) / 2 + Pixels(twipsBelow));
+}
+
+void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {
+    SetBasePointer(*this, QString::fromStdString(game.session.AppPath));
+    for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
+}
+
+QString FittedText(const std::string& text, const QFont& font, int width) {
+    return QFontMetrics(font).elidedText(QString::fromStdString(text), Qt::ElideMiddle, width);
+}

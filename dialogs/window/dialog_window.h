@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDialog>
+
+#include "core/game.h"
+#include "kit/art.h"
+
+// What the game's dialogs have in common: a client area of a fixed size in twips, the game's pointers and a place over
+// the window that owns them.
+class DialogWindow : public QDialog {
+public:
+    DialogWindow(QWidget& owner, const char* name, const char* caption, int widthInTwips, int heightInTwips);
+
+    // Centre upon centre, and so far below.
+    void PlaceOverOwner(int twipsBelow = 0);
+    void SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable);
+
+private:
+    QWidget& owner_;
+};
+
+// The text, its middle left out where it is too wide for the width in pixels.
+QString FittedText(const std::string& text, const QFont& font, int width);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QLabel>
+
+#include "dialogs/window/dialog_window.h"
+
+// The result of a two-player game. Opening it plays the sound of the verdict.
+class frmTheWinerIs final : public DialogWindow {
+public:
+    frmTheWinerIs(QWidget& owner, Game& game, Art& art);
+
+private:
+    QLabel* AddLabel(const char* name, const QRect& area, int fontPixels, const std::string& text);
+};

@@ -1,0 +1,70 @@
+#include "kit/art.h"
+
+#include <QSvgRenderer>
+
+// The resources lie in a static library, which the linker would take without them.
+static void TakeResources() { Q_INIT_RESOURCE(art); }
+
+namespace {
+QString KeyOf(const QString& name, QSize size) {
+    return QString("%1 %2x%3").arg(name).arg(size.width()).arg(size.height());
+}
+
+// An image and not a pixmap, which belongs to the thread of the windows.
+QImage Render(const QString& name, QSize size) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QSvgRenderer renderer(":/art/" + name + ".svg");
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(QPointF(0, 0), size));
+    return image;
+}
+}  // namespace
+
+Art::Art() { TakeResources(); }
+
+void Art::RenderAhead(std::vector<Wanted> pictures) {
+    ahead_ = std::async(std::launch::async, [pictures = std::move(pictures)] {
+        QHash<QString, QImage> images;
+        for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
+        return images;
+    });
+}
+
+void Art::TakeRenderedAhead() {
+    if (!ahead_.valid()) return;
+    const QHash<QString, QImage> images = ahead_.get();
+    for (auto image = images.begin(); image != images.end(); ++image)
+        rendered_[image.key()] = QPixmap::fromImage(image.value());
+}
+
+const QPixmap& Art::Picture(const QString& name, QSize devicePixels) {
+    TakeRenderedAhead();
+    QPixmap& picture = rendered_[KeyOf(name, devicePixels)];
+    if (picture.isNull()) picture = QPixmap::fromImage(Render(name, devicePixels));
+    return picture;
+}
+
+void Art::Draw(QPainter& painter, const QRectF& area, const QString& name) {
+    const QRect target = DeviceArea(painter, area);
+    if (target.isEmpty()) return;
+    painter.save();
+    UseDevicePixels(painter);
+    painter.drawPixmap(target.topLeft(), Picture(name, target.size()));
+    painter.restore();
+}
+
+QPixmap Art::Scaled(const QString& name, QSize size, qreal devicePixelRatio) {
+    QPixmap picture = Picture(name, (QSizeF(size) * devicePixelRatio).toSize());
+    picture.setDevicePixelRatio(devicePixelRatio);
+    return picture;
+}
+
+QRect DeviceArea(const QPainter& painter, const QRectF& area) {
+    const QRectF device = painter.deviceTransform().mapRect(area);
+    const QPoint topLeft = device.topLeft().toPoint();
+    const QPoint bottomRight = device.bottomRight().toPoint();
+    return {topLeft, QSize(bottomRight.x() - topLeft.x(), bottomRight.y() - topLeft.y())};
+}
+
+void UseDevicePixels(QPainter& painter) { painter.setWorldTransform(painter.deviceTransform().inverted(), true); }

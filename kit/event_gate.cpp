@@ -1,0 +1,37 @@
+#include "kit/event_gate.h"
+
+#include <utility>
+
+void EventGate::Run(Handler handler) {
+    if (Busy()) {
+        waiting_.push_back(std::move(handler));
+        return;
+    }
+    while (!waiting_.empty()) RunFirstWaiting();
+    Enter(handler);
+}
+
+void EventGate::Enter(const Handler& handler) {
+    ++depth_;
+    handler();
+    --depth_;
+    RunLater();
+}
+
+void EventGate::RunLater() {
+    if (waiting_.empty()) return;
+    const auto run = [this] {
+        if (!Busy() && !waiting_.empty()) RunFirstWaiting();
+    };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+}
+
+void EventGate::RunFirstWaiting() {
+    const Handler handler = std::move(waiting_.front());
+    waiting_.pop_front();
+    Enter(handler);
+}
+
+EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) { gate_.RunLater(); }
+
+EventGate::Open::~Open() { gate_.depth_ = depth_; }

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QCursor>
+
+#include "kit/art.h"
+
+// The pointer over what can be clicked. It points with the tip of its finger.
+QCursor HandPointer(Art& art, qreal devicePixelRatio);
+
+// Gives the window the pointer of base.cur in the program's folder, with the hot spot that the file names. Without the
+// file, or with one that is no pointer, the window keeps the pointer it has.
+void SetBasePointer(QWidget& window, const QString& programFolder);

@@ -1,0 +1,16 @@
+#include "kit/twips.h"
+
+#include <algorithm>
+#include <cmath>
+
+int Pixels(int twips) {
+    constexpr double twipsPerPixel = 15;
+    return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+
+QRect Pixels(const Place& place) {
+    const int left = Pixels(place.left);
+    const int top = Pixels(place.top);
+    return {left, top, std::max(1, Pixels(place.left + place.width) - left),
+            std::max(1, Pixels(place.top + place.height) - top)};
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QRect>
+
+// Places in twips; 15 twips are one device-independent pixel.
+struct Place {
+    int left, top, width, height;
+};
+
+int Pixels(int twips);
+// Rounds each edge by itself, so that controls which touch in twips touch in pixels. At least one pixel wide and high.
+QRect Pixels(const Place& place);

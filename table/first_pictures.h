@@ -1,6 +1,0 @@
-#pragma once
-
-#include "table/art.h"
-
-// What the window shows when it opens, at the sizes that it will be wanted in.
-std::vector<Art::Wanted> FirstPictures(qreal devicePixelRatio);

@@ -1,0 +1,132 @@
+#include "table/window/board.h"
+
+#include <QMouseEvent>
+
+#include "table/row_names.h"
+
+namespace {
+constexpr LabelLook boxLook{colour::box, colour::black, colour::boxShade, colour::boxShine};
+constexpr LabelLook maxMinLook{colour::box, colour::maxMinText, colour::boxShade, colour::boxShine};
+constexpr LabelLook sumLook{colour::white, colour::sumText, colour::boxShade, colour::boxShine};
+constexpr LabelLook columnTotalLook{colour::columnTotal, colour::columnTotalText, colour::boxShade, colour::boxShine};
+
+const ByTotalRow<const char*> totalSuffixes{{"Tot1", "Tot2", "Tot"}};
+const ByTotalRow<const char*> totalNames{{"Sub Total", "Max minus Min times Ones", "Column Total"}};
+
+QString Index(const QString& array, int i) { return QString("%1_%2").arg(array).arg(i); }
+
+QString Called(ScoreColumn column, const char* what) { return QString("%1 column, %2").arg(ColumnName(column), what); }
+
+PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_empty"}; }
+PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, {}}; }
+PictureButton::Looks WideHotLooks(int row) { return {Index("row_hot", row), {}, Index("row_plain", row)}; }
+}  // namespace
+
+BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover)
+    : PictureButton(name, parent, art, NarrowLooks()), box_(box), hover_(std::move(hover)) {
+    setMouseTracking(true);
+    setEnabled(false);
+    hide();
+}
+
+void BoxButton::SayState() { setAccessibleName(box_ + (isEnabled() ? ", open" : ", closed")); }
+
+void BoxButton::TellHover(bool on) {
+    if (on ? !isEnabled() : !hovered_) return;
+    hovered_ = on;
+    hover_(on);
+}
+
+void BoxButton::enterEvent(QEnterEvent* event) {
+    PictureButton::enterEvent(event);
+    TellHover(true);
+}
+
+// A button that was enabled under a resting mouse, or whose light a click has put out, lights up with the next move.
+void BoxButton::mouseMoveEvent(QMouseEvent* event) {
+    PictureButton::mouseMoveEvent(event);
+    TellHover(rect().contains(event->position().toPoint()));
+}
+
+void BoxButton::leaveEvent(QEvent* event) {
+    PictureButton::leaveEvent(event);
+    TellHover(false);
+}
+
+void BoxButton::hideEvent(QHideEvent* event) {
+    PictureButton::hideEvent(event);
+    TellHover(false);
+}
+
+void BoxButton::changeEvent(QEvent* event) {
+    PictureButton::changeEvent(event);
+    if (event->type() != QEvent::EnabledChange) return;
+    SayState();
+    if (!isEnabled()) TellHover(false);
+}
+
+Board::Board(QWidget* table, Art& art, const Events& events)
+    : ground_(new Shape(boxGroundPlace.name, table, colour::boxGround)),
+      arrowsFour_(new Picture("imgArrow", table, art, "arrows_4")),
+      arrowsOne_(new Picture("imgArrow2", table, art, "arrows_1")) {
+    arrowsFour_->setGeometry(Pixels(arrowsFourPlace));
+    arrowsOne_->setGeometry(Pixels(arrowsOnePlace));
+    for (ScoreColumn column : allColumns) MakeColumn(column, table, art, events);
+}
+
+void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events) {
+    Column& made = columns_[column];
+    const QString label = QString("lbl") + ColumnName(column);
+    const QFont boxFont = BoxFont();
+    const QString button = QString("cmd") + ColumnName(column);
+    for (int row = 0; row < rowCount; ++row) {
+        const LabelLook& look = row == rowMax || row == rowMin ? maxMinLook : boxLook;
+        made.boxes[row] = new TextLabel(Index(label, row), table, look, Qt::AlignHCenter);
+        made.boxes[row]->setFont(boxFont);
+        made.boxes[row]->setAccessibleDescription(Called(column, RowName(row)));
+        const auto hover = [hover = events.hover, column, row](bool on) { hover(column, row, on); };
+        made.buttons[row] = new BoxButton(Index(button, row), table, art, Called(column, RowName(row)), hover);
+        QObject::connect(made.buttons[row], &QAbstractButton::clicked,
+                         [click = events.click, column, row] { click(column, row); });
+    }
+    for (TotalRow row : allTotalRows) {
+        const LabelLook& look = row == TotalRow::ColumnTotal ? columnTotalLook : sumLook;
+        made.totals[row] = new TextLabel(label + totalSuffixes[row], table, look, Qt::AlignHCenter);
+        made.totals[row]->setFont(boxFont);
+        made.totals[row]->setAccessibleDescription(Called(column, totalNames[row]));
+    }
+}
+
+void Board::LayOut(int columns) {
+    const bool four = columns == 4;
+    ground_->setGeometry(Pixels(boxGroundPlace.In(columns)));
+    arrowsFour_->setVisible(four);
+    arrowsOne_->setVisible(!four);
+    for (ScoreColumn column : allColumns) PlaceColumn(column, columns);
+    for (int row = 0; row < rowCount; ++row)
+        Button(ScoreColumn::Rand, row).SetLooks(four ? NarrowLooks() : WideLooks(row));
+}
+
+void Board::PlaceColumn(ScoreColumn column, int columns) {
+    const bool used = columns == 4 || column == ScoreColumn::Rand;
+    for (int row = 0; row < rowCount; ++row) {
+        const int top = boxTops[row];
+        Box(column, row).setGeometry(Pixels(BoxPlace(column, top, boxLabelHeight, columns)));
+        Box(column, row).setVisible(used);
+        Button(column, row).setGeometry(Pixels(BoxPlace(column, top, boxButtonHeight, columns)));
+    }
+    for (TotalRow row : allTotalRows) {
+        const int top = totalTops[row];
+        Total(column, row).setGeometry(Pixels(BoxPlace(column, top, boxLabelHeight, columns)));
+        Total(column, row).setVisible(used && (columns == 4 || row != TotalRow::ColumnTotal));
+    }
+}
+
+void Board::SetPointer(const QCursor& pointer) {
+    for (ScoreColumn column : allColumns)
+        for (int row = 0; row < rowCount; ++row) Button(column, row).setCursor(pointer);
+}
+
+void Board::SetBoxPicture(int row, bool normal) {
+    Button(ScoreColumn::Rand, row).SetLooks(normal ? WideLooks(row) : WideHotLooks(row));
+}

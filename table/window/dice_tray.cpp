@@ -1,0 +1,157 @@
+#include "table/window/dice_tray.h"
+
+#include <QMouseEvent>
+
+namespace {
+QString Index(const char* array, int i) { return QString("%1_%2").arg(array).arg(i); }
+
+PictureButton::Looks FreeLooks(int face) { return {Index("die_free", face), {}, {}}; }
+PictureButton::Looks RollingLooks(int face) { return {Index("die_roll", face), {}, {}}; }
+PictureButton::Looks HeldLooks(int face) { return {Index("die_held", face), {}, {}}; }
+
+QString Said(int i, int face, const char* state) {
+    return QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state);
+}
+
+PictureButton::Looks RollLooks(RollPicture kind) {
+    switch (kind) {
+        case RollPicture::Up:
+            return {"roll_up", {}, {}};
+        case RollPicture::On:
+            return {"roll_on", {}, {}};
+        case RollPicture::Off:
+            return {"roll_off", {}, {}};
+    }
+    return {};
+}
+}  // namespace
+
+RollButton::RollButton(QWidget* parent, Art& art, std::function<void()> cancelled)
+    : PictureButton("picRollDices", parent, art, RollLooks(RollPicture::Up)), cancelled_(std::move(cancelled)) {
+    setAccessibleName("Roll the dice");
+}
+
+// The release of a mouse button goes to the modal window that has come up meanwhile.
+bool RollButton::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked && held_) {
+        held_ = {};
+        cancelled_();
+    }
+    return PictureButton::event(event);
+}
+
+void RollButton::mousePressEvent(QMouseEvent* event) {
+    held_ |= event->button();
+    emit pressed();
+}
+
+void RollButton::mouseReleaseEvent(QMouseEvent* event) {
+    const bool wasHeld = held_.testFlag(event->button());
+    held_ &= ~Qt::MouseButtons(event->button());
+    if (wasHeld) emit released();
+}
+
+DiceTray::DiceTray(QWidget* table, Art& art, const Events& events)
+    : tray_(new Shape(trayPlace.name, table, colour::tray, colour::trayEdge, colour::trayEdge)),
+      rollFrame_(new Shape(rollFramePlace.name, table, {}, colour::trayEdge, colour::trayEdge)),
+      roll_(new RollButton(table, art, events.rollCancelled)) {
+    for (int i = 0; i < maxDice; ++i) MakeDie(i, table, art, events);
+    MakeRollButton(art, events);
+}
+
+void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
+    Die& die = At(i);
+    die.frame = new Shape(dieFrameNames[i], table, colour::trayEdge);
+    die.free = new PictureButton(Index("picDice", i), table, art, {});
+    die.held = new PictureButton(Index("PicDiceOff", i), table, art, {});
+    ShowFree(i);
+    ShowFace(i, i + 1);
+    EnableDie(i, false);
+    QObject::connect(die.free, &QAbstractButton::clicked, [hold = events.hold, i] { hold(i); });
+    QObject::connect(die.held, &QAbstractButton::clicked, [release = events.release, i] { release(i); });
+}
+
+void DiceTray::MakeRollButton(Art& art, const Events& events) {
+    QObject::connect(roll_, &QAbstractButton::pressed, events.rollDown);
+    QObject::connect(roll_, &QAbstractButton::released, events.rollUp);
+    for (int k = 0; k < lampCount; ++k) {
+        const QRect area = Pixels(Place{lampLefts[k], lampTop, lampSize, lampSize});
+        darkLamps_[k] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
+        litLamps_[k] = new Picture(Index("picRound", k), roll_, art, "lamp_lit");
+        darkLamps_[k]->setGeometry(area);
+        litLamps_[k]->setGeometry(area);
+    }
+    SetLamps(0);
+    nextPlayer_ = new CaptionButton("cmdNextPlayer", roll_);
+    nextPlayer_->setGeometry(Pixels(nextPlayerPlace));
+    nextPlayer_->SetCaption("Next Player");
+    nextPlayer_->hide();
+    QObject::connect(nextPlayer_, &QAbstractButton::clicked, events.nextPlayer);
+    showBoard_ = new CaptionButton("cmdShowNextBoard", roll_);
+    showBoard_->setGeometry(Pixels(showBoardPlace));
+    ShowNextBoardButton(false, false);
+    QObject::connect(showBoard_, &QAbstractButton::clicked, events.showBoard);
+}
+
+void DiceTray::LayOut(int columns, int lastDieIndex) {
+    tray_->setGeometry(Pixels(trayPlace.In(columns)));
+    rollFrame_->setGeometry(Pixels(rollFramePlace.In(columns)));
+    roll_->setGeometry(Pixels(rollPlace.In(columns)));
+    for (int i = 0; i < maxDice; ++i) {
+        const QRect area = Pixels(DiePlace(i, columns, lastDieIndex));
+        At(i).free->setGeometry(area);
+        At(i).held->setGeometry(area);
+        At(i).frame->setGeometry(Pixels(DieFramePlace(i, columns, lastDieIndex)));
+        At(i).frame->setVisible(i <= lastDieIndex);
+    }
+}
+
+void DiceTray::SetPointers(const QCursor& hand, const QCursor& base) {
+    for (Die& die : dice_) die.free->setCursor(hand);
+    roll_->setCursor(hand);
+    showBoard_->setCursor(hand);
+    nextPlayer_->setCursor(base);
+}
+
+void DiceTray::SetRollPicture(RollPicture kind) { roll_->SetLooks(RollLooks(kind)); }
+
+void DiceTray::ShowFace(int i, int face) {
+    At(i).free->SetLooks(FreeLooks(face));
+    At(i).held->SetLooks(HeldLooks(face));
+    At(i).free->setAccessibleName(Said(i, face, "free"));
+    At(i).held->setAccessibleName(Said(i, face, "held"));
+}
+
+void DiceTray::ShowRollingFace(int i, int face) { At(i).free->SetLooks(RollingLooks(face)); }
+
+void DiceTray::ShowFree(int i) {
+    At(i).free->show();
+    At(i).held->hide();
+}
+
+void DiceTray::ShowHeld(int i) {
+    At(i).held->show();
+    At(i).free->hide();
+}
+
+void DiceTray::Hide(int i) {
+    At(i).free->hide();
+    At(i).held->hide();
+}
+
+void DiceTray::EnableDie(int i, bool on) {
+    At(i).free->setEnabled(on);
+    At(i).held->setEnabled(on);
+}
+
+void DiceTray::SetLamps(int n) {
+    for (int k = 0; k < lampCount; ++k) {
+        litLamps_[k]->setVisible(k < n);
+        darkLamps_[k]->setVisible(k >= n);
+    }
+}
+
+void DiceTray::ShowNextBoardButton(bool visible, bool enabled) {
+    showBoard_->setVisible(visible);
+    showBoard_->setEnabled(enabled);
+}

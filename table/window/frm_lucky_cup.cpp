@@ -1,0 +1,211 @@
+#include "table/window/frm_lucky_cup.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QScreen>
+
+#include "core/hints.h"
+#include "core/placement.h"
+#include "core/turn.h"
+#include "core/two_players.h"
+#include "kit/pointers.h"
+#include "table/main_window.h"
+
+namespace {
+constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                        Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                        Qt::WindowCloseButtonHint;
+
+QString Text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+// The code of a key of the table, 0 for every other. A key that is held down counts once, or Enter would roll a whole
+// turn away.
+int KeyCode(const QKeyEvent& event) {
+    if (event.isAutoRepeat() || event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return 0;
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return keyEnter;
+        case Qt::Key_Space:
+            return keySpace;
+        default:
+            return 0;
+    }
+}
+}  // namespace
+
+frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
+    : QMainWindow(nullptr, fixedWindow),
+      gate_(gate),
+      art_(art),
+      table_(new TableArea(this, [this] { SetPointersAndIcon(); })),
+      lines_(table_),
+      labels_(table_),
+      board_(table_, art_, BoardEvents()),
+      tray_(table_, art_, TrayEvents()),
+      score_(new CounterDisplay(table_, art_, Counter(CounterPicture::picScore))),
+      toolBar_(new ToolBar(table_, art_, Commands())),
+      menuBar_(new MenuBar(this, art_, Commands())),
+      statusBar_(new StatusBarWidget(table_)) {
+    setObjectName("frmLuckyCup");
+    setMenuBar(menuBar_);
+    setCentralWidget(table_);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    table_->setFixedWidth(Pixels(windowWidth));
+    toolBar_->setGeometry(Pixels(Place{0, 0, windowWidth, toolbarHeight}));
+}
+
+void frmLuckyCup::Load(Game& game) {
+    game_ = &game;
+    PlaceOnScreen();
+    Run(Form_Load);
+}
+
+void frmLuckyCup::SetPointersAndIcon() {
+    SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
+    const QCursor hand = HandPointer(art_, devicePixelRatioF());
+    board_.SetPointer(hand);
+    tray_.SetPointers(hand, cursor());
+    QIcon icon;
+    for (int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(art_.Scaled("icon", {size, size}, 1));
+    QApplication::setWindowIcon(icon);
+}
+
+void frmLuckyCup::PlaceOnScreen() {
+    // The place is worked out from these, whatever the window's own size is.
+    constexpr int toldWidth = 4900;
+    constexpr int toldHeight = 8100;
+    const QRect area = screen()->geometry();
+    const int spareWidth = area.width() - Pixels(toldWidth);
+    const int spareHeight = area.height() - Pixels(toldHeight);
+    move(area.left() + spareWidth / 2, area.top() + static_cast<int>(spareHeight / 4.3));
+}
+
+void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
+    gate_.Run([this, handler] { handler(*game_); });
+}
+
+Board::Events frmLuckyCup::BoardEvents() {
+    return {
+        .click = [this](ScoreColumn column, int row) { Run([=](Game& game) { ClickBox(game, column, row); }); },
+        .hover = [this](ScoreColumn column, int row, bool onButton) { Hover(column, row, onButton); },
+    };
+}
+
+void frmLuckyCup::Hover(ScoreColumn column, int row, bool onButton) {
+    Run([=](Game& game) {
+        // New Game forgets the hover but not the light, so a mouse that leaves is reported once more before it goes.
+        if (!onButton) cmdBox_MouseMove(game, column, row, true);
+        cmdBox_MouseMove(game, column, row, onButton);
+    });
+}
+
+DiceTray::Events frmLuckyCup::TrayEvents() {
+    return {
+        .rollDown = [this] { Run(picRollDices_MouseDown); },
+        .rollUp = [this] { Run(picRollDices_MouseUp); },
+        .rollCancelled = [this] { Run(CancelRollPress); },
+        .nextPlayer = [this] { Run(cmdNextPlayer_MouseUp); },
+        .showBoard = [this] { Run(cmdShowNextBoard_Click); },
+        .hold = [this](int i) { Run([i](Game& game) { picDice_Click(game, i); }); },
+        .release = [this](int i) { Run([i](Game& game) { PicDiceOff_Click(game, i); }); },
+    };
+}
+
+CommandRunner frmLuckyCup::Commands() {
+    return {.run = [this](GameCommand command) { Run(command); }, .exit = [this] { close(); }};
+}
+
+void frmLuckyCup::SetBoxText(ScoreColumn column, int row, const std::string& text) {
+    board_.Box(column, row).setText(Text(text));
+}
+
+void frmLuckyCup::SetTotalText(ScoreColumn column, TotalRow row, const std::string& text) {
+    board_.Total(column, row).setText(Text(text));
+}
+
+void frmLuckyCup::SetTipText(int row, const std::string& text) { labels_.SetTip(row, Text(text)); }
+
+void frmLuckyCup::SetFrameHeight(int columns) {
+    labels_.SetFrameHeight(columns);
+    lines_.SetFrameHeight(columns);
+}
+
+void frmLuckyCup::LayOut(int columns, int lastDieIndex) {
+    labels_.LayOut(columns);
+    lines_.LayOut(columns);
+    board_.LayOut(columns);
+    tray_.LayOut(columns, lastDieIndex);
+    score_->setGeometry(Pixels(scorePlace.In(columns)));
+}
+
+// Qt takes a single [*] for its mark of a changed document.
+void frmLuckyCup::SetTitle(std::string_view text) { setWindowTitle(Text(text).replace("[*]", "[*][*]")); }
+
+void frmLuckyCup::SetWindowHeight(int twips) {
+    const int inner = twips - frameAndMenuHeight;
+    table_->setFixedHeight(Pixels(inner));
+    statusBar_->setGeometry(Pixels(Place{0, inner - statusBarHeight, windowWidth, statusBarHeight}));
+    layout()->activate();
+}
+
+void frmLuckyCup::SetPanelText(int k, std::string_view text) { statusBar_->SetPanelText(k, Text(text)); }
+
+void frmLuckyCup::SetUndoEnabled(bool on) {
+    menuBar_->SetUndoEnabled(on);
+    toolBar_->SetUndoEnabled(on);
+}
+
+void frmLuckyCup::SetRedoEnabled(bool on) {
+    menuBar_->SetRedoEnabled(on);
+    toolBar_->SetRedoEnabled(on);
+}
+
+void frmLuckyCup::ShowChoice(MenuChoice choice, bool on) {
+    menuBar_->ShowChoice(choice, on);
+    if (choice == MenuChoice::Sounds) toolBar_->ShowSound(on);
+    if (choice == MenuChoice::Music) toolBar_->ShowMusic(on);
+}
+
+void frmLuckyCup::EnableCheckedHintEntries(bool byRequest, bool allways) {
+    menuBar_->EnableCheckedHintEntries(byRequest, allways);
+}
+
+void frmLuckyCup::SetShowBoardCaption(std::string_view caption) { tray_.SetShowBoardCaption(Text(caption)); }
+
+void frmLuckyCup::CopyPicture(CounterPicture from, CounterPicture to) { Counter(to) = Counter(from); }
+
+void frmLuckyCup::DrawDigit(CounterPicture to, int digit, int x) {
+    Counter(to).Draw(static_cast<char>('0' + digit), x);
+}
+
+void frmLuckyCup::DrawMinus(CounterPicture to, int x) { Counter(to).Draw('-', x); }
+
+void frmLuckyCup::EraseDigit(int x) { Counter(CounterPicture::picScore).Erase(x); }
+
+void frmLuckyCup::BlankScoreCounter(CounterPicture picture) {
+    Counter(picture) = {};
+    if (picture == CounterPicture::picScore) score_->Refresh();
+}
+
+void frmLuckyCup::keyPressEvent(QKeyEvent* event) {
+    const int code = KeyCode(*event);
+    if (code == 0) return QMainWindow::keyPressEvent(event);
+    Run([code](Game& game) { Form_KeyPress(game, code); });
+}
+
+void frmLuckyCup::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || minimized_ == isMinimized()) return;
+    minimized_ = isMinimized();
+    Run([minimized = minimized_](Game& game) { Form_Resize(game, minimized); });
+}
+
+void frmLuckyCup::closeEvent(QCloseEvent* event) {
+    bool leaves = false;
+    if (!gate_.Busy()) gate_.Run([&] { leaves = Form_QueryUnload(*game_); });
+    event->setAccepted(leaves);
+}

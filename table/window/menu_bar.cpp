@@ -1,0 +1,134 @@
+#include "table/window/menu_bar.h"
+
+#include <QIcon>
+#include <span>
+
+#include "core/new_game.h"
+#include "core/undo.h"
+#include "table/commands.h"
+
+namespace {
+enum class Kind { Command, Checked, Exit, Separator };
+
+struct MenuEntry {
+    const char* name;
+    const char* caption = "";
+    const char* shortcut = "";
+    const char* picture = "";
+    Kind kind = Kind::Command;
+    GameCommand command = nullptr;
+};
+
+constexpr MenuEntry Line(const char* name) { return {name, "", "", "", Kind::Separator}; }
+constexpr MenuEntry Checked(const char* name, const char* caption) {
+    return {name, caption, "", "menu_check", Kind::Checked};
+}
+constexpr MenuEntry Switch(const char* name, const char* caption, GameCommand command) {
+    return {name, caption, "", "", Kind::Command, command};
+}
+
+constexpr MenuEntry gameMenu[] = {
+    {"mnuNewGame", "&New Game", "F2", "menu_new", Kind::Command, mnuNewGame_Click},
+    {"mnuOptions", "&Options...", "Ctrl+O", "menu_options", Kind::Command, mnuOptions_Click},
+    {"mnuScores", "&Show Top Scores...", "Ctrl+H", "menu_scores", Kind::Command, mnuScores_Click},
+    Line("mnuHyphen1"),
+    {"mnuGameExit", "E&xit", "Ctrl+X", "menu_exit", Kind::Exit},
+};
+
+constexpr MenuEntry toolsMenu[] = {
+    {"mnuUndoUndo", "&Undo", "", "menu_undo", Kind::Command, mnuUndoUndo_Click},
+    {"mnuUndoRedo", "&Redo", "", "menu_redo", Kind::Command, mnuUndoRedo_Click},
+    Line("mnuHyphen2"),
+    Checked("mnuHintsByRequest", "Show &Hints by Request"),
+    Switch("mnuHintsByRequest2", "S&how Hints by Request", mnuHintsByRequest2_Click),
+    Checked("mnuHintsAllways", "Show Hints &Allways"),
+    Switch("mnuHintsAllways2", "Show &Hints Allways", mnuHintsAllways2_Click),
+    Line("mnuHyphen3"),
+    Checked("mnuSoundsOn", "Turn S&ound Effects On"),
+    Switch("mnuSoundsOn2", "Turn Sound &Effects On", mnuSoundsOn2_Click),
+    Checked("mnuSoundsOff", "Turn Sou&nd Effects Off"),
+    Switch("mnuSoundsOff2", "Turn Sound E&ffects Off", mnuSoundsOff2_Click),
+    Line("mnuHyphen4"),
+    Checked("mnuMusicOn", "Turn &Music On"),
+    Switch("mnuMusicOn2", "Turn M&usic On", mnuMusicOn2_Click),
+    Checked("mnuMusicOff", "Turn Mu&sic Off"),
+    Switch("mnuMusicOff2", "Turn Mus&ic Off", mnuMusicOff2_Click),
+};
+
+constexpr MenuEntry helpMenu[] = {
+    {"mnuQuickStar", "&Quick Start...", "", "menu_quickstart", Kind::Command, mnuQuickStar_Click},
+    {"mnuContents", "Help &Contents...", "F1", "menu_help", Kind::Command, mnuContents_Click},
+    Line("mnuHyphen5"),
+    {"mnuGoToWeb", "&Visit Web Site...", "", "menu_visitweb", Kind::Command, mnuGoToWeb_Click},
+    {"mnuContact", "&Contact the Author...", "", "menu_sendmail", Kind::Command, mnuContact_Click},
+    Line("mnuHyphen6"),
+    {"mnuAbout", "&About LuckyCup...", "", "menu_about", Kind::Command, mnuAbout_Click},
+};
+
+// The entries of a choice by what they say: the choice is on, or it is off.
+struct Pairs {
+    const char *checkedOn, *switchOn, *checkedOff, *switchOff;
+};
+
+constexpr Indexed<Pairs, 3, MenuChoice> pairs{{{
+    {"mnuHintsAllways", "mnuHintsAllways2", "mnuHintsByRequest", "mnuHintsByRequest2"},
+    {"mnuSoundsOn", "mnuSoundsOn2", "mnuSoundsOff", "mnuSoundsOff2"},
+    {"mnuMusicOn", "mnuMusicOn2", "mnuMusicOff", "mnuMusicOff2"},
+}}};
+
+QSize PictureSize(QStringView picture) {
+    if (picture == u"menu_check") return {15, 15};
+    if (picture == u"menu_sendmail") return {18, 16};
+    return {16, 16};
+}
+
+void AddEntry(QMenu& menu, const MenuEntry& entry, const CommandRunner& runner) {
+    QAction* action = entry.kind == Kind::Separator ? menu.addSeparator() : menu.addAction(entry.caption);
+    action->setObjectName(entry.name);
+    action->setShortcut(QKeySequence(entry.shortcut));
+    if (entry.kind == Kind::Exit) QObject::connect(action, &QAction::triggered, runner.exit);
+    if (entry.kind == Kind::Command)
+        QObject::connect(action, &QAction::triggered, [runner, command = entry.command] { runner.run(command); });
+}
+
+// The pictures are drawn when the menu is opened for the first time.
+void AddPictures(const QMenu& menu, std::span<const MenuEntry> entries, Art& art) {
+    const QList<QAction*> actions = menu.actions();
+    if (!actions.front()->icon().isNull()) return;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const QString picture = entries[i].picture;
+        if (picture.isEmpty()) continue;
+        actions[static_cast<qsizetype>(i)]->setIcon(
+            art.Scaled(picture, PictureSize(picture), menu.devicePixelRatioF()));
+    }
+}
+
+void AddMenu(MenuBar& bar, const char* name, const char* caption, std::span<const MenuEntry> entries, Art& art,
+             const CommandRunner& runner) {
+    QMenu* menu = bar.addMenu(caption);
+    menu->setObjectName(name);
+    for (const MenuEntry& entry : entries) AddEntry(*menu, entry, runner);
+    QObject::connect(menu, &QMenu::aboutToShow, [menu, entries, &art] { AddPictures(*menu, entries, art); });
+}
+}  // namespace
+
+MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenuBar(parent) {
+    AddMenu(*this, "mnuGame", "&Game", gameMenu, art, runner);
+    AddMenu(*this, "mnuTools", "&Tools", toolsMenu, art, runner);
+    AddMenu(*this, "mnuHelp", "&Help", helpMenu, art, runner);
+    undo_ = Entry("mnuUndoUndo");
+    redo_ = Entry("mnuUndoRedo");
+}
+
+void MenuBar::ShowChoice(MenuChoice choice, bool on) {
+    const Pairs& entries = pairs[choice];
+    Entry(entries.checkedOn)->setVisible(on);
+    Entry(entries.switchOn)->setVisible(!on);
+    Entry(entries.checkedOff)->setVisible(!on);
+    Entry(entries.switchOff)->setVisible(on);
+}
+
+void MenuBar::EnableCheckedHintEntries(bool byRequest, bool allways) {
+    Entry("mnuHintsByRequest")->setEnabled(byRequest);
+    Entry("mnuHintsAllways")->setEnabled(allways);
+}

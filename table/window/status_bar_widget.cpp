@@ -1,0 +1,55 @@
+#include "table/window/status_bar_widget.h"
+
+#include <QPainter>
+
+#include "kit/controls.h"
+#include "table/window/layout.h"
+
+namespace {
+constexpr int gap = 2;
+constexpr int inset = 4;
+}  // namespace
+
+StatusBarWidget::StatusBarWidget(QWidget* parent) : QWidget(parent) {
+    setObjectName("StatusBar1");
+    setFont(TableFont(false));
+    for (int k = 1; k <= 5; ++k) {
+        panels_[k].label = new QLabel(this);
+        panels_[k].label->setObjectName(QString("StatusBar1_%1").arg(k));
+        panels_[k].label->setTextFormat(Qt::PlainText);
+        panels_[k].label->hide();
+    }
+    panels_[5].visible = true;
+}
+
+void StatusBarWidget::SetPanelText(int k, const QString& text) { panels_[k].label->setText(text); }
+
+void StatusBarWidget::SetPanelLayout(int k, int widthInTwips, bool visible) {
+    panels_[k].width = widthInTwips;
+    panels_[k].visible = visible;
+    PlacePanels();
+}
+
+void StatusBarWidget::PlacePanels() {
+    int left = 0;
+    for (Panel& panel : panels_) {
+        panel.label->setVisible(panel.visible);
+        if (!panel.visible) continue;
+        const bool last = &panel == &panels_[5];
+        const int right = last ? width() : left + Pixels(panel.width);
+        panel.label->setGeometry(left + inset, 1, right - left - 2 * inset, height() - 2);
+        left = right + gap;
+    }
+    update();
+}
+
+void StatusBarWidget::resizeEvent(QResizeEvent*) { PlacePanels(); }
+
+void StatusBarWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), colour::window);
+    for (const Panel& panel : panels_) {
+        if (!panel.visible) continue;
+        PaintEdges(painter, panel.label->geometry().adjusted(-inset, -1, inset, 1), colour::dark, colour::light);
+    }
+}

@@ -1,0 +1,118 @@
+#include "table/window/tool_bar.h"
+
+#include <QPainter>
+
+#include "core/new_game.h"
+#include "core/undo.h"
+#include "table/commands.h"
+#include "table/window/layout.h"
+
+namespace {
+constexpr QSize buttonSize(24, 24);
+constexpr QSize pictureSize(16, 16);
+constexpr int separatorWidth = 9;
+constexpr int leftMargin = 5;
+constexpr int topMargin = 3;
+
+constexpr int undoButton = 3, redoButton = 4, hintButton = 6, soundButton = 8, musicButton = 9;
+
+struct Key {
+    const char* name;  // empty: a separator
+    const char* toolTip;
+    const char* picture;
+    GameCommand command;  // none: exit
+};
+
+constexpr Key separator{"", "", "", nullptr};
+constexpr Indexed<Key, keyCount, int, 1> keys{{{
+    {"tbNew", "New Game", "tb_new", mnuNewGame_Click},
+    separator,
+    {"tbUndo", "Undo", "tb_undo", mnuUndoUndo_Click},
+    {"tbRedo", "Redo", "tb_redo", mnuUndoRedo_Click},
+    separator,
+    {"tbHint", "Show Hints", "tb_hint", tbHint_Click},
+    separator,
+    {"tbSound", "Sounds On/Off", "tb_sound_off", tbSound_Click},
+    {"tbBGmusic", "Music On/Off", "tb_music_off", tbBGmusic_Click},
+    separator,
+    {"tbHelp", "Quick Help", "tb_help", mnuQuickStar_Click},
+    {"tbExit", "Exit Game", "tb_exit", nullptr},
+}}};
+
+// A flat key that rises under the mouse.
+class ToolKey final : public QAbstractButton {
+public:
+    ToolKey(QWidget* parent, Art& art, const Key& key) : QAbstractButton(parent), art_(art) {
+        setObjectName(key.name);
+        setToolTip(key.toolTip);
+        setAccessibleName(key.toolTip);
+        setFocusPolicy(Qt::NoFocus);
+        setAttribute(Qt::WA_Hover);
+        SetPicture(key.picture);
+    }
+
+    void SetPicture(const QString& picture) {
+        picture_ = picture;
+        setProperty("picture", picture);
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const bool hot = isEnabled() && underMouse();
+        if (hot && isDown()) PaintEdges(painter, rect(), colour::dark, colour::light);
+        if (hot && !isDown()) PaintEdges(painter, rect(), colour::light, colour::dark);
+        const QString look = !isEnabled() ? "_disabled" : hot ? "_hot" : "";
+        const QPoint corner((width() - pictureSize.width()) / 2, (height() - pictureSize.height()) / 2);
+        art_.Draw(painter, QRect(isDown() ? corner + QPoint(1, 1) : corner, pictureSize), picture_ + look);
+    }
+
+private:
+    Art& art_;
+    QString picture_;
+};
+}  // namespace
+
+ToolBar::ToolBar(QWidget* parent, Art& art, const CommandRunner& runner) : QWidget(parent) {
+    setObjectName("Toolbar2");
+    int left = leftMargin;
+    for (int i = 1; i <= keyCount; ++i) {
+        const GameCommand command = keys[i].command;
+        if (*keys[i].name == '\0') {
+            left += separatorWidth;
+            continue;
+        }
+        buttons_[i] = new ToolKey(this, art, keys[i]);
+        buttons_[i]->setGeometry(QRect(QPoint(left, topMargin), buttonSize));
+        left += buttonSize.width();
+        connect(buttons_[i], &QAbstractButton::clicked, this, [runner, command] {
+            if (command)
+                runner.run(command);
+            else
+                runner.exit();
+        });
+    }
+}
+
+void ToolBar::SetUndoEnabled(bool on) { buttons_[undoButton]->setEnabled(on); }
+void ToolBar::SetRedoEnabled(bool on) { buttons_[redoButton]->setEnabled(on); }
+void ToolBar::SetHintEnabled(bool on) { buttons_[hintButton]->setEnabled(on); }
+
+void ToolBar::ShowSound(bool on) {
+    static_cast<ToolKey&>(*buttons_[soundButton]).SetPicture(on ? "tb_sound_on" : "tb_sound_off");
+}
+
+void ToolBar::ShowMusic(bool on) {
+    static_cast<ToolKey&>(*buttons_[musicButton]).SetPicture(on ? "tb_music_on" : "tb_music_off");
+}
+
+void ToolBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    for (int i = 2; i <= keyCount; ++i) {
+        if (buttons_[i]) continue;
+        const int x = buttons_[i - 1]->geometry().right() + 1 + separatorWidth / 2;
+        painter.fillRect(x, topMargin + 2, 1, buttonSize.height() - 4, colour::dark);
+        painter.fillRect(x + 1, topMargin + 2, 1, buttonSize.height() - 4, colour::light);
+    }
+}
