@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int sheetWidth = 1500;
+constexpr int sheetWidth = 1570;
 constexpr int margin = 10;
 constexpr int nameHeight = 14;
 constexpr int largeScale = 3;
