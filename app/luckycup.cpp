@@ -4,20 +4,9 @@
 #include <QLockFile>
 #include <QStandardPaths>
 
-#include "app/desktop_shell.h"
-#include "app/seeded_random.h"
-#include "app/tick.h"
-#include "core/silent_ports.h"
-#include "dialogs/window/qt_dialogs.h"
+#include "app/program.h"
 #include "kit/message_box.h"
-#include "kit/qt_clock.h"
-#include "kit/qt_timers.h"
-#include "sound/background_music.h"
-#include "store/settings_store.h"
-#include "store/top_score_files.h"
-#include "table/table_parts.h"
 #include "table/window/first_pictures.h"
-#include "table/window/frm_lucky_cup.h"
 
 namespace {
 QString LockPath() {
@@ -36,30 +25,6 @@ std::string ProgramFolder() {
     return (folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator()).toStdString();
 }
 
-// All that stands behind one table, each made before what it is handed to.
-struct Program {
-    Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
-        game.session.AppPath = programFolder;
-        game.settings = store.LoadSettings();
-        timers.SetTick([this](Timer timer) { ::Tick(game, parts, music, timer); });
-    }
-
-    Art& art;
-    EventGate gate;
-    frmLuckyCup window{gate, art};
-    QtTimers timers{gate};
-    QtClock clock;
-    SeededRandom random;
-    SilentEffects effects;
-    SilentMedia media;
-    QtDialogs dialogs{window, gate, art};
-    TopScoreFiles scores;
-    DesktopShell shell;
-    RegistrySettings store;
-    TableParts parts;
-    BackgroundMusic music;
-    Game game{Ports{window, timers, clock, random, effects, media, dialogs, scores, shell, store, parts}};
-};
 }  // namespace
 
 int Main(QApplication& app) {
@@ -72,7 +37,6 @@ int Main(QApplication& app) {
     Art art;
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(ProgramFolder(), art);
-    program.window.Load(program.game);
-    program.window.show();
+    program.ShowMainWindow();
     return app.exec();
 }

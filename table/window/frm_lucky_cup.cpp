@@ -85,7 +85,9 @@ void frmLuckyCup::PlaceOnScreen() {
 }
 
 void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
-    gate_.Run([this, handler] { handler(*game_); });
+    gate_.Run([this, handler] {
+        if (game_) handler(*game_);
+    });
 }
 
 Board::Events frmLuckyCup::BoardEvents() {
@@ -206,6 +208,6 @@ void frmLuckyCup::changeEvent(QEvent* event) {
 
 void frmLuckyCup::closeEvent(QCloseEvent* event) {
     bool leaves = false;
-    if (!gate_.Busy()) gate_.Run([&] { leaves = Form_QueryUnload(*game_); });
+    if (!gate_.Busy()) Run([&](Game& game) { leaves = Form_QueryUnload(game); });
     event->setAccepted(leaves);
 }

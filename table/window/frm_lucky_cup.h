@@ -19,9 +19,9 @@ class frmLuckyCup final : public QMainWindow, public TableView {
 public:
     frmLuckyCup(EventGate& gate, Art& art);
 
-    // Loads the window for the game that it shows from now on. Once, before it is shown; the game outlives the window's
-    // last event.
+    // Loads the window for the game that it shows from now on. Once, before it is shown.
     void Load(Game& game);
+    void LetGo() { game_ = nullptr; }  // the game ends; nothing that happens to the window reaches it any more
 
     void SetRollPicture(RollPicture kind) override { tray_.SetRollPicture(kind); }
     void SetRollEnabled(bool on) override { tray_.SetRollEnabled(on); }

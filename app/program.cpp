@@ -1,0 +1,17 @@
+#include "app/program.h"
+
+#include "app/tick.h"
+
+Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
+    game.session.AppPath = programFolder;
+    game.settings = store.LoadSettings();
+    timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
+}
+
+// The game goes before the window does, which must not reach for it then.
+Program::~Program() { window.LetGo(); }
+
+void Program::ShowMainWindow() {
+    window.Load(game);
+    window.show();
+}

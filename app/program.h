@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/desktop_shell.h"
+#include "app/seeded_random.h"
+#include "core/silent_ports.h"
+#include "dialogs/window/qt_dialogs.h"
+#include "kit/qt_clock.h"
+#include "kit/qt_timers.h"
+#include "sound/background_music.h"
+#include "store/settings_store.h"
+#include "store/top_score_files.h"
+#include "table/table_parts.h"
+#include "table/window/frm_lucky_cup.h"
+
+// All that stands behind one table, each made before what it is handed to.
+struct Program {
+    // programFolder ends in the separator. The pictures outlive the program.
+    Program(const std::string& programFolder, Art& pictures);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // Loads the main window and shows it; once.
+    void ShowMainWindow();
+
+    Art& art;
+    EventGate gate;
+    frmLuckyCup window{gate, art};
+    QtTimers timers{gate};
+    QtClock clock;
+    SeededRandom random;
+    SilentEffects effects;
+    SilentMedia media;
+    QtDialogs dialogs{window, gate, art};
+    TopScoreFiles scores;
+    DesktopShell shell;
+    RegistrySettings store;
+    TableParts parts;
+    BackgroundMusic music;
+    Game game{Ports{window, timers, clock, random, effects, media, dialogs, scores, shell, store, parts}};
+};
