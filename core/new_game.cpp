@@ -1,8 +1,10 @@
 #include "core/new_game.h"
 
+#include "core/effects.h"
 #include "core/hints.h"
 #include "core/music.h"
 #include "core/show.h"
+#include "core/timing.h"
 
 namespace {
 

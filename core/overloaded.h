@@ -1,0 +1,7 @@
+#pragma once
+
+// One visitor of a variant out of a function for each of its kinds.
+template <typename... Functions>
+struct Overloaded : Functions... {
+    using Functions::operator()...;
+};
