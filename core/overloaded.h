@@ -5,3 +5,5 @@ template <typename... Functions>
 struct Overloaded : Functions... {
     using Functions::operator()...;
 };
+template <typename... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
