@@ -233,26 +233,29 @@ TEST_F(TopScoreFilesTest, ProtectedFilesStayAsTheyAre) {
 
 TEST_F(TopScoreFilesTest, FileThatCannotGrowStaysAsItIs) {
     Write(Slots(4, 1));
-    const pid_t child = fork();
-    if (child == 0) {
-        const rlimit limit{100, 100};
-        std::signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &limit);
-        _exit(CodeOf([this] { Record(7); }));
+    for (const rlim_t room : {0U, 1U, 100U, 483U, 484U}) {
+        const pid_t child = fork();
+        if (child == 0) {
+            const rlimit limit{room, room};
+            std::signal(SIGXFSZ, SIG_IGN);
+            setrlimit(RLIMIT_FSIZE, &limit);
+            _exit(CodeOf([this] { Record(7); }));
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(WEXITSTATUS(status), room < 484 ? 57 : 0) << room;
+        EXPECT_EQ(Bytes(), room < 484 ? Slots(4, 1) : Slot(7) + Slots(4, 1) + Zeros(15) + trailer) << room;
+        EXPECT_EQ(Names(), QStringList("scores1.dat"));
     }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(WEXITSTATUS(status), 57);
-    EXPECT_EQ(Bytes(), Slots(4, 1));
-    EXPECT_EQ(Names(), QStringList("scores1.dat"));
 }
 
-TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsLeftovers) {
-    const QString elsewhere = folder.filePath("elsewhere.dat");
+TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsItsOwnLeftoversOnly) {
+    const QString elsewhere = folder.filePath("*");
     Record(5);
     ASSERT_TRUE(QFile::rename(Path(), elsewhere) && QFile::link(elsewhere, Path()));
     ASSERT_EQ(chmod(QFile::encodeName(elsewhere), 0660), 0);
-    for (const char* leftover : {".new", ".new.aBcDeF"}) ASSERT_TRUE(QFile::copy("/dev/null", elsewhere + leftover));
+    for (const char* name : {".new", ".new.aBcDeF", ".new-year"})
+        ASSERT_TRUE(QFile::copy("/dev/null", elsewhere + name));
 
     EXPECT_EQ(Record(4), 2);
     EXPECT_EQ(QFile::symLinkTarget(Path()), elsewhere);
@@ -260,7 +263,40 @@ TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsLeftovers) {
     struct stat status {};
     ASSERT_EQ(stat(QFile::encodeName(elsewhere), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0660U);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("elsewhere.dat"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({"*", "*.new-year", "*.new.aBcDeF"}));
+}
+
+TEST_F(TopScoreFilesTest, WhatIsPlantedBesideTheTableIsNotWrittenThrough) {
+    Record(5);
+    Write("the player's own", 2);
+    const QByteArray fresh = QFile::encodeName(Path() + ".new");
+    const std::pair<const char*, std::function<int()>> cases[] = {
+        {"a link", [&] { return symlink(QFile::encodeName(Path(2)), fresh); }},
+        {"a link to nothing", [&] { return symlink("nothing", fresh); }},
+        {"a hard link", [&] { return link(QFile::encodeName(Path(2)), fresh); }},
+        {"a pipe", [&] { return mkfifo(fresh, 0666); }},
+        {"a folder", [&] { return mkdir(fresh, 0777); }},
+    };
+    int best = 5;
+    for (const auto& [what, plant] : cases) {
+        ASSERT_EQ(plant(), 0) << what;
+        EXPECT_EQ(Record(++best), 1) << what;
+        EXPECT_EQ(Names(), QStringList({"scores1.dat", "scores2.dat"})) << what;
+        EXPECT_EQ(Bytes(2), "the player's own") << what;
+    }
+    ASSERT_TRUE(QDir().mkpath(Path() + ".new/full"));
+    EXPECT_EQ(CodeOf([this] { Record(99); }), 70) << "a folder that holds something";
+    EXPECT_EQ(files.LoadTopScores(1)[0].Score, best);
+}
+
+TEST_F(TopScoreFilesTest, ProgramsThatRecordAtOnceLoseNothing) {
+    for (int program = 0; program < 4; ++program)
+        if (fork() == 0) {
+            for (int score = 1; score <= 5; ++score) Record(score * 4 + program);
+            _exit(0);
+        }
+    for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
+    EXPECT_EQ(Bytes().toHex(), (Slots(23, 4) + trailer).toHex());
 }
 
 // The n-th update puts n on top, so the table itself tells which one it is and what all of it must be.
