@@ -77,13 +77,22 @@ void RunLine(ScriptTable& script, const ScriptLine& line, std::ostream& out) {
 int RunScript(std::istream& in, std::ostream& out, std::ostream& err) {
     ScriptTable script;
     std::string text;
-    for (std::size_t number = 1; std::getline(in, text); ++number) {
+    for (std::size_t number = 1; out && std::getline(in, text); ++number) {
         try {
             RunLine(script, ScriptLine(text), out);
         } catch (const BadLine& bad) {
+            if (!out.flush()) break;
             err << "line " << number << ": " << bad.what() << '\n';
             return 2;
         }
+    }
+    if (!out.flush()) {
+        err << "cannot write the output\n";
+        return 1;
+    }
+    if (!in.eof()) {
+        err << "cannot read the input\n";
+        return 1;
     }
     return 0;
 }
