@@ -75,11 +75,17 @@ bool SameSettings(const QSettings& one, const QSettings& other) {
     });
 }
 
+// In memory, where the system has such a folder for its users.
+QString FolderForDrafts() {
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return own.isEmpty() ? QDir::tempPath() : own;
+}
+
 // A store's bytes with the settings written into them, empty when that fails. QSettings would wait for locks beside the
 // file, and on a full disk of Qt 6.4 put an empty one in its place; so it is given a copy in a folder of its own, and
 // what it wrote is read back under another name, which it does not remember.
 QByteArray WithSettings(const QByteArray& store, const GameSettings& settings) {
-    const QTemporaryDir folder;
+    const QTemporaryDir folder(FolderForDrafts() + "/LuckyCup-XXXXXX");
     const QString draft = folder.filePath("draft.conf");
     const QString written = folder.filePath("written.conf");
     if (!CopyTo(draft, store)) return {};

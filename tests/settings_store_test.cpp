@@ -18,7 +18,10 @@ namespace {
 
 class SettingsStoreTest : public testing::Test {
 protected:
-    void SetUp() override { NewStore(); }
+    void SetUp() override {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.path()));
+        NewStore();
+    }
     void TearDown() override { ASSERT_EQ(seteuid(getuid()), 0); }
 
     // A user's own store in a folder that was never used: for a file that it knows, Qt answers from memory.
