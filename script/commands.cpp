@@ -61,11 +61,17 @@ constexpr SetUp setUps[] = {
     {"set", Set}, {"seed", Seed}, {"faces", Faces}, {"answer", Answers}, {"media", Media},
 };
 
+BadLine UnknownCommand(std::string_view command) {
+    std::string name(command);
+    std::ranges::replace(name, '\0', '?');  // which would end the text of the error
+    return BadLine("unknown command '" + name + '\'');
+}
+
 void RunLine(ScriptTable& script, const ScriptLine& line, std::ostream& out) {
     if (line.Empty()) return;
     const auto* setUp = std::ranges::find(setUps, line.Command(), &SetUp::command);
     if (setUp != std::end(setUps)) return setUp->run(script, line);
-    if (!IsEvent(line.Command())) throw BadLine("unknown command '" + std::string(line.Command()) + '\'');
+    if (!IsEvent(line.Command())) throw UnknownCommand(line.Command());
 
     script.table.log.clear();
     const bool done = RunEvent(script, line);

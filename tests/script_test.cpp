@@ -43,6 +43,7 @@ TEST(Script, EndsAtABadLineAndTellsItsNumber) {
         EXPECT_EQ(played.lines.size(), printed) << script;
     };
     expectError("\n# a game\r\n  jump 1\nstart", "line 3: unknown command 'jump'", 0);
+    expectError(std::string("\0up", 3), "line 1: unknown command '?up'", 0);
     expectError("start\nquit\njump", "line 3: unknown command 'jump'", 2);
     expectError("start\nquit\nstart", "line 3: not started", 2);
     for (const std::string& event : Cases("roll|state 1|die 9|options x|tick nothing")) {

@@ -289,44 +289,4 @@ TEST_F(TopScoreFilesTest, WhatIsPlantedBesideTheTableIsNotWrittenThrough) {
     EXPECT_EQ(files.LoadTopScores(1)[0].Score, best);
 }
 
-TEST_F(TopScoreFilesTest, ProgramsThatRecordAtOnceLoseNothing) {
-    for (int program = 0; program < 4; ++program)
-        if (fork() == 0) {
-            for (int score = 1; score <= 5; ++score) Record(score * 4 + program);
-            _exit(0);
-        }
-    for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
-    EXPECT_EQ(Bytes().toHex(), (Slots(23, 4) + trailer).toHex());
-}
-
-// The n-th update puts n on top, so the table itself tells which one it is and what all of it must be.
-TEST_F(TopScoreFilesTest, KilledProcessLeavesTheOldOrTheNewTable) {
-    ASSERT_TRUE(QFile::copy("/dev/null", Path() + ".backup")) << "a copy of the player's own";
-    std::mt19937 random(1);
-    int best = 0;
-    for (int round = 0; round < 300; ++round) {
-        int recorded[2];
-        ASSERT_EQ(pipe(recorded), 0);
-        const pid_t child = fork();
-        for (int score = best + 1; child == 0; ++score)
-            if (Record(score) != 1 || write(recorded[1], "", 1) != 1) _exit(1);
-        char one = 0;
-        ASSERT_EQ(read(recorded[0], &one, 1), 1);
-        usleep(static_cast<useconds_t>(random() % 1000));
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        close(recorded[0]);
-        close(recorded[1]);
-
-        const int top = files.LoadTopScores(1)[0].Score;
-        ASSERT_GT(top, best);
-        best = top;
-        const int kept = std::min(best, 20);
-        ASSERT_EQ(Bytes().toHex(), (Slots(best, best - kept + 1) + unused.repeated(20 - kept) + trailer).toHex());
-        ASSERT_LE(Names().size(), 5) << "leftovers pile up";
-    }
-    Record(best + 1);
-    EXPECT_EQ(Names(), QStringList({"scores1.dat", "scores1.dat.backup"}));
-}
-
 }  // namespace
