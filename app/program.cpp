@@ -5,6 +5,7 @@
 Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
     game.session.AppPath = programFolder;
     game.settings = store.LoadSettings();
+    window.SetMenuStyle(menuStyle);
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }
 

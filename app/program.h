@@ -6,6 +6,7 @@
 #include "dialogs/window/qt_dialogs.h"
 #include "kit/qt_clock.h"
 #include "kit/qt_timers.h"
+#include "menus/menu_style.h"
 #include "sound/background_music.h"
 #include "store/settings_store.h"
 #include "store/top_score_files.h"
@@ -25,6 +26,7 @@ struct Program {
 
     Art& art;
     EventGate gate;
+    MenuStyle menuStyle{art};
     frmLuckyCup window{gate, art};
     QtTimers timers{gate};
     QtClock clock;
