@@ -109,17 +109,25 @@ void DrawIcon(QPainter& painter, const QStyleOptionMenuItem& item) {
         DrawSunken(painter, place, item.icon);
 }
 
-// One line of text in the vertical middle of a cell.
+// One line of text in the vertical middle of a cell. It starts at a whole device pixel, so that the marks of the
+// accelerators are equally thick in all rows.
 void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const QString& text, const QColor& colour,
                  bool enabled) {
     const QRect line(cell.left(), cell.top() + Middle(cell.height(), textHeight), cell.width(), textHeight);
+    const QPoint corner = DeviceArea(painter, line).topLeft();
     const int flags = static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextShowMnemonic;
-    if (!enabled) {
-        painter.setPen(colour::white);
-        painter.drawText(line.translated(1, 1), flags, text);
-    }
-    painter.setPen(enabled ? colour : colour::dark);
-    painter.drawText(line, flags, text);
+    const qreal scale = painter.device()->devicePixelRatioF();
+    const auto draw = [&](QPoint devicePixels, const QColor& ink) {
+        painter.save();
+        UseDevicePixels(painter);
+        painter.translate(devicePixels);
+        painter.scale(scale, scale);
+        painter.setPen(ink);
+        painter.drawText(QRect(QPoint(), line.size()), flags, text);
+        painter.restore();
+    };
+    if (!enabled) draw(corner + QPoint(LineWidth(painter), LineWidth(painter)), colour::white);
+    draw(corner, enabled ? colour : colour::dark);
 }
 }  // namespace
 
