@@ -19,7 +19,7 @@ QFont BoxFont() {
 
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight) {
     const QRect device = DeviceArea(painter, area);
-    const int width = std::max(1, static_cast<int>(painter.device()->devicePixelRatioF()));
+    const int width = std::max(1, static_cast<int>(DeviceScale(painter)));
     painter.save();
     UseDevicePixels(painter);
     if (bottomRight.isValid()) {

@@ -24,15 +24,6 @@ constexpr int menuFrame = 1;
 // caption and its shortcut all but touch.
 constexpr int checkMarkWidth = 12;
 
-// The desktop's font for menus in our size. A desktop that names none leaves Qt's "Sans Serif", which can be anything:
-// then the menus look like the table.
-QFont GetMenuFont() {
-    QFont font = QApplication::font("QMenu");
-    if (font.family() == "Sans Serif") font.setFamilies(TableFont(false).families());
-    font.setPixelSize(letterHeight);
-    return font;
-}
-
 int Middle(int whole, int part) { return static_cast<int>(std::lround((whole - part) / 2.0)); }
 
 QSize ImageSize(const QIcon& icon) { return icon.isNull() ? QSize(0, 0) : icon.actualSize({iconGutter, iconGutter}); }
@@ -48,7 +39,7 @@ int ShortcutColumn(const QMenu& menu) {
 }
 
 // The width of a line in device pixels.
-int LineWidth(const QPainter& painter) { return std::max(1, static_cast<int>(painter.device()->devicePixelRatioF())); }
+int LineWidth(const QPainter& painter) { return std::max(1, static_cast<int>(DeviceScale(painter))); }
 
 void Fill(QPainter& painter, const QRect& area, const QColor& colour) {
     const QRect device = DeviceArea(painter, area);
@@ -116,7 +107,7 @@ void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const
     const QRect line(cell.left(), cell.top() + Middle(cell.height(), textHeight), cell.width(), textHeight);
     const QPoint corner = DeviceArea(painter, line).topLeft();
     const int flags = static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextShowMnemonic;
-    const qreal scale = painter.device()->devicePixelRatioF();
+    const qreal scale = DeviceScale(painter);
     const auto draw = [&](QPoint devicePixels, const QColor& ink) {
         painter.save();
         UseDevicePixels(painter);
@@ -130,6 +121,13 @@ void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const
     draw(corner, enabled ? colour : colour::dark);
 }
 }  // namespace
+
+QFont GetMenuFont() {
+    QFont font = QApplication::font("QMenu");
+    if (font.family() == "Sans Serif") font.setFamilies(TableFont(false).families());
+    font.setPixelSize(letterHeight);
+    return font;
+}
 
 MenuStyle::MenuStyle(Art& art, bool SkinOn) : QProxyStyle("Fusion"), art_(art), SkinOn_(SkinOn), font_(GetMenuFont()) {}
 
@@ -146,9 +144,9 @@ void MenuStyle::FillGround(QPainter& painter, const QRect& area, const QWidget& 
     const QPointF corner(-widget.mapTo(widget.window(), QPoint()));
     const QPoint origin = painter.deviceTransform().map(corner).toPoint();
     const QRect device = DeviceArea(painter, area);
+    const QSize tile = (skinSize * DeviceScale(painter)).toSize();
     painter.save();
     UseDevicePixels(painter);
-    const QSize tile = (skinSize * painter.device()->devicePixelRatioF()).toSize();
     painter.drawTiledPixmap(device, art_.Picture("menu_skin", tile), device.topLeft() - origin);
     painter.restore();
 }

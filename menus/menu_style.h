@@ -5,6 +5,10 @@
 
 #include "kit/art.h"
 
+// The desktop's font for menus in letters of 13 pixels. A desktop that names none leaves Qt's "Sans Serif", which can
+// be anything: then it is the font of the table.
+QFont GetMenuFont();
+
 // The look of a menu bar, its drop-downs and a toolbar: a tiled picture as ground, a small image beside each entry, a
 // dark highlight, the shortcut at the right. It is for the widgets that it is set on, and for no others. It outlives
 // them, and the pictures outlive it. All sizes are pixels of scale 1.
