@@ -98,6 +98,12 @@ TEST(MenuColours, AreFoundByTheirKeys) {
         EXPECT_EQ(GetMenuColor(QString(key), true), onSkin) << key;
         EXPECT_EQ(GetMenuColor(QString(key), false), onPlain) << key;
     }
+    Art art;
+    MenuStyle bare(art, false);
+    QMenu menu;
+    menu.setStyle(&bare);
+    menu.addSeparator();
+    EXPECT_EQ(Shot(menu, art, 1).picture.pixelColor(3, 3), QColor(58, 110, 165));
 }
 
 TEST(MenuSizes, FollowTextAndImage) {
@@ -176,22 +182,40 @@ TEST_P(MenuPixels, ShowEachEntryInItsPlace) {
     menu.hide();
 }
 
-TEST_P(MenuPixels, LightNothingUpThatIsDisabled) {
+TEST_P(MenuPixels, LightUpWhatIsEnabledUnderTheMouse) {
     MenuTable t;
     QMenu& menu = t.Menu("mnuTools");
     menu.popup({});
     const auto row = [&](const char* name) { return menu.actionGeometry(&t.Entry(name)); };
+    const auto shotUnderMouse = [&](const char* name) {
+        for (int x : {40, 44, 48}) QTest::mouseMove(&menu, row(name).topLeft() + QPoint(x, 8));
+        return Shot(menu, t.art, GetParam());
+    };
     const Shot plain(menu, t.art, GetParam());
-    for (int x : {40, 44, 48}) QTest::mouseMove(&menu, row("mnuUndoUndo").topLeft() + QPoint(x, 8));
-    const Shot disabled(menu, t.art, GetParam());
-    EXPECT_EQ(disabled.picture, plain.picture);
-    const QRect image = disabled.Ink(row("mnuUndoUndo").adjusted(0, 0, 30 - row("mnuUndoUndo").width(), 0));
-    EXPECT_NEAR(image.center().x(), 15 * GetParam(), 2 * GetParam());
-
-    for (int x : {40, 44, 48}) QTest::mouseMove(&menu, row("mnuHintsByRequest2").topLeft() + QPoint(x, 8));
-    const Shot lit(menu, t.art, GetParam());
+    const Shot lit = shotUnderMouse("mnuHintsByRequest2");
     EXPECT_EQ(lit.At(row("mnuHintsByRequest2"), 0, 0), selected);  // it has no image
+    EXPECT_EQ(shotUnderMouse("mnuUndoUndo").picture, plain.picture);
+    const QRect image = plain.Ink(row("mnuUndoUndo").adjusted(0, 0, 30 - row("mnuUndoUndo").width(), 0));
+    EXPECT_NEAR(image.center().x(), 15 * GetParam(),
+                2 * GetParam());  // a disabled one stands in the middle of its cell
     menu.hide();
+
+    // Where the keyboard stops at disabled entries too, they look no different.
+    const auto drawn = [&](QStyle::State state) {
+        QImage canvas(200, rowHeight, QImage::Format_RGB32);
+        canvas.fill(Qt::lightGray);
+        QStyleOptionMenuItem item;
+        item.menuItemType = QStyleOptionMenuItem::Normal;
+        item.rect = canvas.rect();
+        item.text = "&Undo\tCtrl+Z";
+        item.icon = ArtIcon(t.art, "menu_undo", {16, 16});
+        item.state = state;
+        QPainter painter(&canvas);
+        t.style.drawControl(QStyle::CE_MenuItem, &item, &painter, &menu);
+        return canvas;
+    };
+    EXPECT_EQ(drawn(QStyle::State_Selected), drawn(QStyle::State_None));
+    EXPECT_NE(drawn(QStyle::State_None), drawn(QStyle::State_Enabled));
 }
 
 INSTANTIATE_TEST_SUITE_P(Scales, MenuPixels, testing::Values(1.0, 1.25, 1.5, 2.0, 3.0),
