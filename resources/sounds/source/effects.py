@@ -126,14 +126,14 @@ def roll_one():
 
 def hold_dice():
     scene = Scene(0.110, 44)
-    scene.lay(0.001, cup_knock(scene.random, 0.95), 0.8)
+    scene.lay(0.001, cup_knock(scene.random, 0.94), 0.8)
     scene.lay(0.001, die_on_felt(scene.random), 0.5)
     return scene
 
 
 def unhold_dice():
     scene = Scene(0.110, 55)
-    scene.lay(0.001, cup_knock(scene.random, 0.68), 0.8)
+    scene.lay(0.001, cup_knock(scene.random, 0.704), 0.8)
     scene.lay(0.001, die_on_felt(scene.random), 0.4)
     return scene
 

@@ -15,7 +15,7 @@ QUALITIES = {
     "maj7": (0, 4, 7, 11),
     "m7b5": (0, 3, 6, 10),
 }
-TOKEN = re.compile(r'"([A-G])([b#]?)([^"]*)"|([_^=]?)([A-Ga-gz])([,\']*)(\d*)(-?)|(\|)|(\S)')
+TOKEN = re.compile(r'"([A-G])([b#]?)([^"]*)"|([_^=]?)([A-Ga-gzZ])([,\']*)(\d*)(-?)|(\|)|(\S)')
 
 
 class Note(NamedTuple):
@@ -44,7 +44,7 @@ class Part:
 class Sheet:
     def __init__(self, path):
         self.parts = {}
-        part = voice = None
+        part = None
         with open(path) as file:
             for line in file.read().splitlines():
                 if line[1:2] == ":":
@@ -59,7 +59,7 @@ class Sheet:
                         self.key = KEYS[line[2:]]
                     continue
                 voice = 2 if line.startswith("[V:2]") else 1
-                at[voice] = self._read(line.removeprefix("[V:2]"), part, voice, at[voice])
+                at[voice] = self._read(re.sub(r"^\[V:.\]", "", line), part, voice, at[voice])
                 part.beats = at[1]
 
     def _read(self, line, part, voice, beat):
@@ -77,7 +77,10 @@ class Sheet:
                 accidentals, bar = {}, beat
             else:
                 duration = int(length or 1) / 2
-                if letter != "z":
+                if letter == "Z":  # that many bars
+                    duration = int(length or 1) * self.beats_a_bar
+                    bar = beat + duration - self.beats_a_bar
+                elif letter != "z":
                     place = letter + octave
                     if sign:
                         accidentals[place] = {"_": -1, "^": 1, "=": 0}[sign]

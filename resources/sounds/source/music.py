@@ -29,15 +29,19 @@ class Piece(NamedTuple):
     sheet: str
     players: dict
     form: list  # of (part, {player: style})
-    swing: float = 0.0  # how late an eighth off the beat comes, in quarters
     slowing: tuple = (0, 1.0)  # over how many last bars the tempo falls to which share
 
 
-VIBES, GUITAR, BASS, KIT = Player(11, 104, 58, 50), Player(24, 92, 84), Player(32, 100, 64, 20), Player(40, 92, 64, 30)
+VIBES, GUITAR = Player(11, 127, 58, 50), Player(24, 90, 84)
+BASS, KIT = Player(32, 102, 64, 20), Player(40, 122, 64, 30)
 
 comping = {"guitar": strum(BOSSA), "bass": bossa_bass(), "kit": drums(BOSSA_DRUMS)}
 turning = comping | {"kit": drums(BOSSA_DRUMS, BOSSA_FILL)}
-swinging = {"guitar": strum([[(1, 0.4), (3, 0.4)]], velocity=50), "bass": walking_bass(), "kit": drums(SWING_DRUMS, BOSSA_FILL)}
+swinging = {
+    "guitar": strum([[(1, 0.4), (3, 0.4)]], velocity=50),
+    "bass": walking_bass(),
+    "kit": drums(SWING_DRUMS, BOSSA_FILL),
+}
 waltzing = {"guitar": strum(WALTZ), "bass": waltz_bass(), "kit": drums(WALTZ_DRUMS, WALTZ_FILL)}
 
 PIECES = {
@@ -47,26 +51,29 @@ PIECES = {
             "vibes": VIBES,
             "solo": Player(24, 108, 74, 50),
             "flute": Player(73, 84, 46, 60),
-            "strings": Player(49, 62, 64, 70),
+            "strings": Player(49, 74, 64, 70),
             "guitar": GUITAR,
             "bass": BASS,
             "kit": KIT,
         },
         [
-            ("I", comping | {"vibes": tune(velocity=72), "kit": drums(SHAKER_ONLY, BOSSA_FILL)}),
-            ("A", comping | {"vibes": tune()}),
-            ("V", turning | {"vibes": tune(velocity=88)}),
-            ("B", comping | {"vibes": tune(), "strings": tune(2)}),
-            ("A", turning | {"vibes": tune(), "flute": below(58, 1)}),
-            ("C", swinging | {"flute": tune(velocity=82), "vibes": pad(60, 46)}),
+            ("I", comping | {"vibes": tune(velocity=92), "kit": drums(SHAKER_ONLY, BOSSA_FILL)}),
+            ("A", comping | {"vibes": tune(velocity=98)}),
+            ("V", turning | {"vibes": tune(velocity=102)}),
+            ("B", comping | {"vibes": tune(velocity=100), "strings": tune(2)}),
+            ("A", turning | {"vibes": tune(velocity=100), "flute": below(58, 1)}),
+            ("C", swinging | {"flute": tune(velocity=82), "vibes": pad(60, 52)}),
             ("S", turning | {"solo": tune(velocity=94), "strings": pad(57, 50)}),
-            ("B", comping | {"flute": tune(velocity=82), "vibes": below(64), "strings": tune(2)}),
-            ("A", turning | {"vibes": tune(velocity=88), "flute": tune(octaves=1, velocity=60), "strings": pad(57, 46)}),
+            ("B", comping | {"flute": tune(velocity=82), "vibes": below(80), "strings": tune(2)}),
+            (
+                "A",
+                turning | {"vibes": tune(velocity=102), "flute": tune(octaves=1, velocity=54), "strings": pad(57, 46)},
+            ),
             (
                 "K",
                 comping
                 | {
-                    "vibes": tune(velocity=78),
+                    "vibes": tune(velocity=96),
                     "strings": pad(57, 44),
                     "guitar": strum(BALLAD),
                     "bass": slow_bass(),
@@ -79,33 +86,42 @@ PIECES = {
     "SONG02": Piece(
         "song02.abc",
         {
-            "clarinet": Player(71, 100, 56, 50),
-            "accordion": Player(21, 76, 76, 50),
+            "clarinet": Player(71, 72, 56, 50),
+            "accordion": Player(21, 108, 76, 50),
             "cello": Player(42, 84, 44, 60),
-            "piano": Player(0, 88, 70, 50),
+            "piano": Player(0, 124, 70, 50),
             "guitar": GUITAR._replace(pan=88),
             "bass": BASS,
             "kit": KIT,
         },
         [
-            ("I", waltzing | {"accordion": tune(velocity=76), "kit": drums(FAIR_DRUMS, WALTZ_FILL)}),
+            ("I", waltzing | {"accordion": tune(velocity=84), "kit": drums(FAIR_DRUMS, WALTZ_FILL)}),
             ("A", waltzing | {"clarinet": tune()}),
             ("A", waltzing | {"clarinet": tune(velocity=88), "cello": tune(2, velocity=74)}),
-            ("B", waltzing | {"piano": tune(velocity=86), "accordion": pad(57, 52)}),
-            ("A", waltzing | {"clarinet": tune(velocity=86), "accordion": below(62), "cello": tune(2, velocity=72)}),
-            ("C", {"accordion": tune(velocity=84), "piano": rolling(), "bass": slow_bass(), "kit": drums(FAIR_DRUMS)}),
+            ("B", waltzing | {"piano": tune(velocity=104), "accordion": pad(57, 46)}),
+            ("V", waltzing | {"clarinet": tune(velocity=84), "accordion": pad(57, 44), "cello": tune(2, velocity=72)}),
+            ("C", {"accordion": tune(velocity=88), "piano": rolling(), "bass": slow_bass(), "kit": drums(FAIR_DRUMS)}),
             (
                 "C",
                 {
-                    "accordion": tune(velocity=78),
+                    "accordion": tune(velocity=86),
                     "clarinet": tune(2, velocity=76),
                     "piano": rolling(velocity=52),
                     "bass": waltz_bass(),
                     "kit": drums(FAIR_DRUMS, WALTZ_FILL),
                 },
             ),
-            ("T", waltzing | {"piano": tune(), "cello": pad(45, 56)}),
-            ("A", waltzing | {"clarinet": tune(velocity=88), "piano": tune(octaves=1, velocity=62), "cello": tune(2), "accordion": pad(57, 50)}),
+            ("T", waltzing | {"piano": tune(velocity=100), "cello": pad(45, 56)}),
+            (
+                "A",
+                waltzing
+                | {
+                    "clarinet": tune(velocity=88),
+                    "piano": tune(octaves=1, velocity=70),
+                    "cello": tune(2),
+                    "accordion": pad(57, 44),
+                },
+            ),
             (
                 "K",
                 {
@@ -124,9 +140,8 @@ PIECES = {
         "intro.abc",
         {
             "vibes": VIBES,
-            "piano": Player(0, 88, 72, 60),
-            "strings": Player(49, 60, 64, 80),
-            "guitar": GUITAR,
+            "piano": Player(0, 112, 72, 60),
+            "strings": Player(49, 76, 64, 80),
             "bass": BASS,
             "kit": KIT,
         },
@@ -134,11 +149,11 @@ PIECES = {
             (
                 "A",
                 {
-                    "vibes": tune(velocity=86),
-                    "piano": rolling(velocity=50),
+                    "vibes": tune(velocity=98),
+                    "piano": rolling(velocity=58),
                     "strings": pad(57, 48),
                     "bass": slow_bass(),
-                    "kit": drums([[(SWIRL, 40, 0, 2), (BRUSH, 40, 1, 3)]] * 9 + [[(RIDE, 40, 0)], []]),
+                    "kit": drums([[(SWIRL, 54, 0, 2), (BRUSH, 54, 1, 3)]] * 9 + [[(RIDE, 50, 0)], []]),
                 },
             ),
         ],
@@ -146,14 +161,14 @@ PIECES = {
     ),
     "GameOver1": Piece(
         "game_over1.abc",
-        {"clarinet": Player(71, 100, 58, 60), "vibes": VIBES, "guitar": GUITAR, "bass": BASS},
+        {"clarinet": Player(71, 78, 58, 60), "vibes": VIBES, "guitar": GUITAR, "bass": BASS},
         [
             (
                 "A",
                 {
                     "clarinet": tune(velocity=84),
-                    "vibes": below(58),
-                    "guitar": strum(BALLAD, velocity=62, spread=0.05),
+                    "vibes": below(80),
+                    "guitar": strum(BALLAD, velocity=56, spread=0.05),
                     "bass": slow_bass(),
                 },
             )
@@ -164,7 +179,7 @@ PIECES = {
         "game_over2.abc",
         {
             "trumpet": Player(56, 100, 56, 60),
-            "horn": Player(60, 96, 76, 70),
+            "horn": Player(60, 90, 76, 70),
             "vibes": VIBES,
             "strings": Player(48, 84, 64, 70),
             "bass": BASS,
@@ -177,15 +192,17 @@ PIECES = {
                 {
                     "trumpet": tune(velocity=94),
                     "horn": tune(2, velocity=88),
-                    "vibes": tune(octaves=1, velocity=74),
+                    "vibes": tune(octaves=1, velocity=92),
                     "strings": pad(57, 76),
                     "bass": slow_bass(),
-                    "timpani": last((0, 1, 41, 96), (2, 1, 41, 100), (4, 1, 46, 92), (6, 1, 36, 96), (8, 2, 41, 108)),
-                    "kit": drums([[(ROLL, 60, 0, 0.5, 1, 1.5)], [(ROLL, 64, 2, 2.5, 3, 3.25, 3.5, 3.75)], [(CRASH, 76, 0)], []]),
+                    "timpani": fixed((0, 1, 41, 96), (2, 1, 41, 100), (4, 1, 46, 92), (6, 1, 36, 96), (8, 2, 41, 108)),
+                    "kit": drums(
+                        [[(BRUSH, 70, 0, 0.5, 1, 1.5)], [(BRUSH, 74, 2, 2.5, 3, 3.25, 3.5, 3.75)], [(CRASH, 84, 0)]]
+                    ),
                 },
             )
         ],
-        slowing=(2, 0.85),
+        slowing=(1, 0.9),
     ),
 }
 
@@ -198,8 +215,7 @@ def performed(piece, sheet, chance):
         part = sheet.parts[name]
         for player, style in band.items():
             for note in style(part, sheet.beats_a_bar):
-                late = piece.swing if note.beat % 1 == 0.5 else 0.0
-                beat = start + note.beat + late + max(-0.03, min(0.03, chance.gauss(0.004, 0.010)))
+                beat = start + note.beat + max(-0.03, min(0.03, chance.gauss(0.004, 0.010)))
                 velocity = max(1, min(127, round(note.velocity + chance.gauss(0, 3.5))))
                 notes[player].append(Note(max(0.0, beat), note.length, note.pitch, velocity))
         start += part.beats
@@ -210,11 +226,14 @@ def track(channel, player, notes):
     control = [(7, player.volume), (10, player.pan), (91, player.reverb), (93, 0)]
     result = mido.MidiTrack([mido.Message("control_change", channel=channel, control=c, value=v) for c, v in control])
     result.insert(0, mido.Message("program_change", channel=channel, program=player.program))
-    events = []
-    for note in notes:
-        # A note given up in the moment when the next one of its pitch starts would end that one.
-        events.append((round((note.beat + note.length) * TICKS) - 1, "note_off", note.pitch, 0))
-        events.append((round(note.beat * TICKS), "note_on", note.pitch, note.velocity))
+    events, free = [], {}
+    for note in sorted(notes, reverse=True):
+        start = round(note.beat * TICKS)
+        # One string or bar: a note ends where the next one of its pitch starts.
+        end = start + round(note.length * TICKS)
+        end = min(end, free.get(note.pitch, end))
+        free[note.pitch] = start
+        events += [(end, "note_off", note.pitch, 0), (start, "note_on", note.pitch, note.velocity)]
     now = 0
     for tick, kind, pitch, velocity in sorted(events):
         result.append(mido.Message(kind, channel=channel, note=pitch, velocity=velocity, time=tick - now))
@@ -224,10 +243,12 @@ def track(channel, player, notes):
 
 def tempo_track(piece, sheet, beats):
     bars, share = piece.slowing
-    steps = [(0, 1.0)] + [(beats - b, 1 - (1 - share) * (1 - b / (bars * sheet.beats_a_bar))) for b in range(bars * sheet.beats_a_bar, 0, -1)]
+    slow = bars * sheet.beats_a_bar
+    steps = [(0, 1.0)] + [(beats - left, 1 - (1 - share) * (1 - left / slow)) for left in range(slow, 0, -1)]
     result, now = mido.MidiTrack(), 0
     for beat, factor in steps:
-        result.append(mido.MetaMessage("set_tempo", tempo=mido.bpm2tempo(sheet.tempo * factor), time=round(beat * TICKS) - now))
+        tempo = mido.bpm2tempo(sheet.tempo * factor)
+        result.append(mido.MetaMessage("set_tempo", tempo=tempo, time=round(beat * TICKS) - now))
         now = round(beat * TICKS)
     return result
 

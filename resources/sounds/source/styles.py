@@ -3,7 +3,7 @@
 from lead_sheet import Note
 
 # The drums of General MIDI that are used, as the brush kit has them.
-KICK, STICK, BRUSH, SWIRL, HAT, RIDE, SHAKER, TRIANGLE, CRASH, ROLL = 36, 37, 38, 40, 42, 51, 70, 81, 49, 38
+KICK, STICK, BRUSH, SWIRL, HAT, CRASH, RIDE, SHAKER, TRIANGLE = 36, 37, 38, 40, 42, 49, 51, 70, 81
 
 
 def tune(voice=1, octaves=0, velocity=84):
@@ -50,7 +50,10 @@ def pad(lowest=57, velocity=45):
 
 
 def strum(rhythm, lowest=52, velocity=58, spread=0.02):
-    """Chords in a rhythm: for each bar in turn a list of (beat, length). Before a bar line the next chord comes early."""
+    """Chords in a rhythm: for each bar in turn a list of (beat, length).
+
+    On the last eighth of a bar the next bar's chord comes early.
+    """
 
     def play(part, bar):
         for start in range(0, int(part.beats), bar):
@@ -62,7 +65,7 @@ def strum(rhythm, lowest=52, velocity=58, spread=0.02):
     return play
 
 
-BOSSA = [[(0, 1.2), (1.5, 1.2), (3, 0.8)], [(0.5, 1.2), (2, 1.2), (3.5, 1.3)]]
+BOSSA = [[(0, 1.2), (1.5, 1.2), (3, 0.8)], [(0.5, 1.2), (2, 1.2), (3.5, 0.4)]]
 BALLAD = [[(0, 1.9), (2, 1.9)]]
 WALTZ = [[(1, 0.7), (2, 0.7)]]
 
@@ -88,12 +91,13 @@ def bossa_bass(velocity=84):
 
     def play(part, bar):
         for beat in range(0, int(part.beats), 2):
-            chord, following = part.chord_at(beat), part.chord_at((beat + 2) % part.beats)
+            chord, following = part.chord_at(beat), part.chord_at(beat + 2)
             fifth_now = beat % bar == 2 and chord.beat < beat
             pitch = bass_pitch(chord.tones[2 if fifth_now else 0])
             push = following if following != chord else chord
             yield Note(beat, 1.4, pitch, velocity)
-            yield Note(beat + 1.5, 0.45, bass_pitch(push.tones[2 if push is chord and not fifth_now else 0]), velocity - 16)
+            pushed = push.tones[2 if push is chord and not fifth_now else 0]
+            yield Note(beat + 1.5, 0.45, bass_pitch(pushed), velocity - 16)
 
     return play
 
@@ -103,11 +107,11 @@ def walking_bass(velocity=84):
 
     def play(part, bar):
         for chord, end in spans(part):
-            root, target = bass_pitch(chord.root), bass_pitch(part.chord_at(end % part.beats).root)
+            root, target = bass_pitch(chord.root), bass_pitch(part.chord_at(end).root)
             for step in range(int(end - chord.beat)):
                 inner = chord.tones[(0, 1, 2, 1)[step % 4]]
                 pitch = root + (inner - chord.root) % 12
-                if step and chord.beat + step + 1 == end:
+                if step and chord.beat + step + 1 == end < part.beats:
                     pitch = target + (1 if pitch > target else -1)
                 yield Note(chord.beat + step, 0.9, pitch, velocity - 8 * (step % 2))
 
@@ -157,11 +161,11 @@ BOSSA_DRUMS = [
 BOSSA_FILL = [(BRUSH, 56, 2.5, 3, 3.5)]
 SHAKER_ONLY = [[(SHAKER, 46, *EIGHTHS)]]
 SWING_DRUMS = [[(RIDE, 50, 0, 1, 1.5, 2, 3, 3.5), (HAT, 48, 1, 3), (BRUSH, 40, 1, 3), (KICK, 34, 0, 2)]]
-WALTZ_DRUMS = [[(KICK, 48, 0), (BRUSH, 44, 1, 2)], [(KICK, 46, 0), (BRUSH, 44, 1, 2, 2.5)]]
-WALTZ_FILL = [(BRUSH, 50, 0.5, 1.5, 2.5)]
-FAIR_DRUMS = [[(TRIANGLE, 44, 0), (SHAKER, 40, 0, 1, 2)], [(SHAKER, 40, 0, 1, 1.5, 2)]]
+WALTZ_DRUMS = [[(KICK, 58, 0), (BRUSH, 54, 1, 2)], [(KICK, 56, 0), (BRUSH, 54, 1, 2, 2.5)]]
+WALTZ_FILL = [(BRUSH, 60, 0.5, 1.5, 2.5)]
+FAIR_DRUMS = [[(TRIANGLE, 54, 0), (SHAKER, 50, 0, 1, 2)], [(SHAKER, 50, 0, 1, 1.5, 2)]]
 
 
-def last(*notes):
-    """Notes of their own, as (beat, length, pitch, velocity): for an ending."""
+def fixed(*notes):
+    """Notes of their own, as (beat, length, pitch, velocity)."""
     return lambda part, bar: (Note(*note) for note in notes)
