@@ -49,8 +49,8 @@ def mixed(*sounds):
 def die_on_felt(random):
     """The cloth takes most of the ivory's ring; the table below answers."""
     size = random.uniform(0.93, 1.07)
-    ivory = ring([(2050 * size, 0.005, 0.30), (3300 * size, 0.003, 0.14), (4900 * size, 0.002, 0.05)])
-    table = ring([(170 * size, 0.022, 0.40), (330 * size, 0.014, 0.34), (610 * size, 0.008, 0.20)], 0.001)
+    ivory = ring([(2050 * size, 0.006, 0.46), (3300 * size, 0.004, 0.22), (4900 * size, 0.002, 0.08)])
+    table = ring([(170 * size, 0.018, 0.22), (330 * size, 0.014, 0.26), (610 * size, 0.009, 0.24)], 0.001)
     return mixed(ivory, table, 0.16 * breath(random, 0.004, 300, 2600))
 
 
@@ -159,10 +159,10 @@ def score():
 
 def score_zero():
     scene = Scene(0.34, 88)
-    scene.lay(0.001, cup_knock(scene.random, 1.3), 0.8)
-    scene.lay(0.001, bar(A4 / 2, 0.05), 0.5)
-    scene.lay(0.120, cup_knock(scene.random, 1.6), 0.7)
-    scene.lay(0.120, bar(F4 / 2, 0.06), 0.6)
+    scene.lay(0.001, cup_knock(scene.random, 1.1), 0.8)
+    scene.lay(0.001, bar(F4, 0.04), 0.5)
+    scene.lay(0.120, cup_knock(scene.random, 1.4), 0.7)
+    scene.lay(0.120, bar(C5 / 2, 0.05), 0.6)
     return scene
 
 

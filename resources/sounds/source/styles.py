@@ -155,15 +155,15 @@ def drums(pattern, fill=()):
 
 EIGHTHS = [half / 2 for half in range(8)]
 BOSSA_DRUMS = [
-    [(SHAKER, 46, *EIGHTHS), (STICK, 50, 0, 1.5, 3), (KICK, 46, 0, 1.5, 2, 3.5), (HAT, 40, 1, 3)],
-    [(SHAKER, 46, *EIGHTHS), (STICK, 50, 1, 2.5), (KICK, 46, 0, 1.5, 2, 3.5), (HAT, 40, 1, 3)],
+    [(SHAKER, 40, *EIGHTHS), (STICK, 50, 0, 1.5, 3), (KICK, 46, 0, 1.5, 2, 3.5), (HAT, 40, 1, 3)],
+    [(SHAKER, 40, *EIGHTHS), (STICK, 50, 1, 2.5), (KICK, 46, 0, 1.5, 2, 3.5), (HAT, 40, 1, 3)],
 ]
-BOSSA_FILL = [(BRUSH, 56, 2.5, 3, 3.5)]
-SHAKER_ONLY = [[(SHAKER, 46, *EIGHTHS)]]
-SWING_DRUMS = [[(RIDE, 50, 0, 1, 1.5, 2, 3, 3.5), (HAT, 48, 1, 3), (BRUSH, 40, 1, 3), (KICK, 34, 0, 2)]]
-WALTZ_DRUMS = [[(KICK, 58, 0), (BRUSH, 54, 1, 2)], [(KICK, 56, 0), (BRUSH, 54, 1, 2, 2.5)]]
-WALTZ_FILL = [(BRUSH, 60, 0.5, 1.5, 2.5)]
-FAIR_DRUMS = [[(TRIANGLE, 54, 0), (SHAKER, 50, 0, 1, 2)], [(SHAKER, 50, 0, 1, 1.5, 2)]]
+BOSSA_FILL = [(BRUSH, 64, 2.5, 3, 3.5)]
+SHAKER_ONLY = [[(SHAKER, 40, *EIGHTHS)]]
+SWING_DRUMS = [[(RIDE, 50, 0, 1, 1.5, 2, 3, 3.5), (HAT, 48, 1, 3), (BRUSH, 58, 1, 3), (KICK, 34, 0, 2)]]
+WALTZ_DRUMS = [[(KICK, 58, 0), (BRUSH, 64, 1, 2)], [(KICK, 56, 0), (BRUSH, 64, 1, 2, 2.5)]]
+WALTZ_FILL = [(BRUSH, 64, 0.5, 1.5, 2.5)]
+FAIR_DRUMS = [[(TRIANGLE, 42, 0), (SHAKER, 50, 0, 1, 2)], [(SHAKER, 50, 0, 1, 1.5, 2)]]
 
 
 def fixed(*notes):
