@@ -23,7 +23,7 @@ def decibels(amplitude):
 
 def read(path):
     """The samples of a WAV or MP3 file in two channels."""
-    command = ["ffmpeg", "-v", "error", "-i", path, "-f", "f32le", "-ac", "2", "-ar", str(RATE), "-"]
+    command = ["ffmpeg", "-nostdin", "-v", "error", "-i", path, "-f", "f32le", "-ac", "2", "-ar", str(RATE), "-"]
     return np.frombuffer(subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout, "<f4").reshape(-1, 2)
 
 
