@@ -49,7 +49,20 @@ void Fill(QPainter& painter, const QRect& area, const QColor& colour) {
     painter.restore();
 }
 
-void RaiseEdge(QPainter& painter, const QRect& area) { PaintEdges(painter, area, colour::white, colour::dark); }
+// The edge of an area, which grows with the scale as the rest of the menus does.
+void DrawEdge(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight) {
+    const QRect device = DeviceArea(painter, area);
+    const int width = LineWidth(painter);
+    painter.save();
+    UseDevicePixels(painter);
+    painter.fillRect(device.left(), device.bottom() + 1 - width, device.width(), width, bottomRight);
+    painter.fillRect(device.right() + 1 - width, device.top(), width, device.height(), bottomRight);
+    painter.fillRect(device.left(), device.top(), device.width(), width, topLeft);
+    painter.fillRect(device.left(), device.top(), width, device.height(), topLeft);
+    painter.restore();
+}
+
+void RaiseEdge(QPainter& painter, const QRect& area) { DrawEdge(painter, area, colour::white, colour::dark); }
 
 // A dark line and below it a light one.
 void EtchLine(QPainter& painter, const QRect& item) {
@@ -175,7 +188,7 @@ void MenuStyle::DrawBarEntry(QPainter& painter, const QStyleOptionMenuItem& item
     if (selected && enabled) {
         Fill(painter, item.rect, GetMenuColor(u"Selected", SkinOn_));
         const QColor border = GetMenuColor(u"BorderColor", SkinOn_);
-        PaintEdges(painter, item.rect, border, border);
+        DrawEdge(painter, item.rect, border, border);
     } else if (current && !selected) {
         RaiseEdge(painter, item.rect);
     }
@@ -209,7 +222,7 @@ void MenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_PanelToolBar:
             return FillGround(*painter, option->rect, *widget);
         case PE_FrameMenu:
-            return PaintEdges(*painter, option->rect, colour::dark, colour::dark);
+            return DrawEdge(*painter, option->rect, colour::dark, colour::dark);
         default:
             return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "core/new_game.h"
+#include "core/redo.h"
 #include "core/undo.h"
 #include "kit/art_icon.h"
 #include "table/commands.h"
@@ -99,9 +100,10 @@ void AddEntry(QMenu& menu, const MenuEntry& entry, Art& art, const CommandRunner
     const QString picture = entry.picture;
     if (!picture.isEmpty()) action->setIcon(ArtIcon(art, picture, PictureSize(picture)));
     if (entry.kind == Kind::Checked) MakeChecked(*action);
-    if (entry.kind == Kind::Exit) QObject::connect(action, &QAction::triggered, runner.exit);
+    if (entry.kind == Kind::Exit) QObject::connect(action, &QAction::triggered, action, runner.exit);
     if (entry.kind == Kind::Command)
-        QObject::connect(action, &QAction::triggered, [runner, command = entry.command] { runner.run(command); });
+        QObject::connect(action, &QAction::triggered, action,
+                         [runner, command = entry.command] { runner.run(command); });
 }
 
 void AddMenu(MenuBar& bar, const char* name, const char* caption, std::span<const MenuEntry> entries, Art& art,

@@ -4,6 +4,7 @@
 #include <QStyleOption>
 
 #include "core/new_game.h"
+#include "core/redo.h"
 #include "core/undo.h"
 #include "table/commands.h"
 #include "table/window/layout.h"
