@@ -189,7 +189,8 @@ TEST_P(MenuPixels, LightUpWhatIsEnabledUnderTheMouse) {
     menu.popup({});
     const auto row = [&](const char* name) { return menu.actionGeometry(&t.Entry(name)); };
     const auto shotUnderMouse = [&](const char* name) {
-        for (int x : {40, 44, 48}) QTest::mouseMove(&menu, row(name).topLeft() + QPoint(x, 8));
+        // A menu does not heed the first few moves near the place where the mouse was when it opened.
+        for (int x = 40; x < 50; ++x) QTest::mouseMove(&menu, row(name).topLeft() + QPoint(x, 8));
         return Shot(menu, t.art, GetParam());
     };
     const Shot plain(menu, t.art, GetParam());
