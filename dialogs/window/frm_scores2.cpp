@@ -86,7 +86,7 @@ void frmScores2::MakeTabs() {
 }
 
 void frmScores2::MakeList() {
-    LVScores_->setGeometry(Pixels(Place{100, 375, 6260, 5780}));
+    LVScores_->setGeometry(Pixels(Place{100, 375, 6260, 5780}).translated(-SSTab1_->pos()));
     LVScores_->setAccessibleName("Top scores");
     LVScores_->setFont(ListFont());
     LVScores_->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
