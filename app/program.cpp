@@ -1,8 +1,9 @@
 #include "app/program.h"
 
 #include "app/tick.h"
+#include "core/program_folder.h"
 
-Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
+Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(ScoresFolder(programFolder)) {
     game.session.AppPath = programFolder;
     game.settings = store.LoadSettings();
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });

@@ -45,13 +45,9 @@ void ShowFile(Game& game, ScoresForm& form, int number) {
         ShowEmptyTopScores(form);
 }
 
-bool ReachedTopScores(const Game& game) {
-    return game.session.LastScorePosition >= 1 && game.session.LastScorePosition <= scoreRecords;
-}
-
 std::string ScoreResultText(const Game& game) {
     const std::string points = "  Your score of  " + std::to_string(game.session.LastFinalScore) + " points was ";
-    if (!ReachedTopScores(game)) return points + "not good enough to get on the  \r\n   top scores table.";
+    if (!ReachedTopScores(game.session)) return points + "not good enough to get on the  \r\n   top scores table.";
     return points + "good enough to get on the \r\n   top scores table at position #" +
            std::to_string(game.session.LastScorePosition) + ".";
 }
@@ -59,7 +55,7 @@ std::string ScoreResultText(const Game& game) {
 bool JingleSounds(const Game& game) { return game.session.SoundOn && !game.session.RedoInProgress; }
 
 void PlayJingle(Game& game, const std::string& name) {
-    game.media.Send("open \"" + ProgramFile(game.session, "LCWAVS", name) + "\" alias song");
+    game.media.Send("open \"" + ProgramFile(game.session.AppPath, {"LCWAVS", name}) + "\" alias song");
     game.media.Send("play song");
 }
 
@@ -88,7 +84,7 @@ ScoresForm frmScores2_Load(Game& game) {
     form.tab = scoreFileNumber - 1;
     form.lblScoreVisible = game.session.ShowScoreResult;
     if (!form.lblScoreVisible) return form;
-    if (ReachedTopScores(game))
+    if (ReachedTopScores(game.session))
         ShowReached(game, form);
     else
         ShowMissed(game, form);

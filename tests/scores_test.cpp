@@ -100,7 +100,8 @@ TEST(Scores, TellHowTheGameCameOut) {
                                                   : begin + "not good enough to get on the  \r\n   top scores table.");
                 EXPECT_TRUE(hall.form.lblScoreVisible && hall.form.fullRowSelect == placed);
                 EXPECT_EQ(hall.form.selectedRow, placed && !failure ? position : 0);
-                const std::string play = "media open \"" + ProgramFile(hall.game.session, "LCWAVS", "GameOver") +
+                const std::string play = "media open \"" +
+                                         ProgramFile(hall.game.session.AppPath, {"LCWAVS", "GameOver"}) +
                                          (placed ? '2' : '1') + ".mp3\" alias song;media play song;";
                 EXPECT_EQ(hall.Log(), (placed || !silence ? "media close song;" : "") + (silence ? "" : play));
             }
