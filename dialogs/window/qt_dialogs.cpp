@@ -17,7 +17,7 @@ Answer QtDialogs::ShowMessage(const Message& message) {
     const EventGate::Open open(gate_);
     QWidget* const window = firstWindow_ ? firstWindow_ : &mainWindow_;
     QWidget* const dialog = QApplication::activeModalWidget();
-    return ShowMessageBox(dialog ? dialog : window, message);
+    return ShowMessageBox(dialog ? dialog : window, art_, message);
 }
 
 void QtDialogs::frmEndGame(Game& game) {
