@@ -2,7 +2,8 @@
 
 #include "app/tick.h"
 
-Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
+Program::Program(const std::string& programFolder, Art& pictures)
+    : art(pictures), sound(programFolder, clock), scores(programFolder) {
     game.session.AppPath = programFolder;
     game.settings = store.LoadSettings();
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
