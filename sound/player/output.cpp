@@ -1,6 +1,7 @@
 #include "sound/player/output.h"
 
 #include <SDL.h>
+#include <alsa/asoundlib.h>
 
 using namespace std::chrono_literals;
 
@@ -11,6 +12,9 @@ constexpr auto patience = 100ms;   // with a device that gives no sign of life
 constexpr auto tooLate = 300ms;    // for an effect whose device took so long to open
 constexpr auto retryTime = 5s;     // while music waits for a device
 constexpr auto lookInterval = 1s;  // at what the device does while it is open
+
+// What ALSA has to say about a missing card would go to the terminal.
+void IgnoreAlsaMessage(const char*, int, const char*, int, const char*, ...) {}
 
 void CloseDevice(SDL_AudioDeviceID id) {
     if (id) SDL_CloseAudioDevice(id);
@@ -82,6 +86,7 @@ void Output::KeepOpen(Shared& shared, std::unique_lock<std::mutex>& lock, SDL_Au
 SDL_AudioDeviceID Output::OpenDevice(Shared& shared) {
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Lucky Cup");
+    snd_lib_error_set_handler(IgnoreAlsaMessage);
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) < 0) return 0;
     SDL_AudioSpec wanted{};
     wanted.freq = framesPerSecond;
