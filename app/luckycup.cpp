@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include "app/program.h"
+#include "core/program_folder.h"
 #include "kit/message_box.h"
 #include "table/window/first_pictures.h"
 
@@ -21,8 +22,7 @@ bool RunsAlready(QLockFile& lock) {
 }
 
 std::string ProgramFolder() {
-    const QString folder = QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
-    return (folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator()).toStdString();
+    return AsFolder(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString());
 }
 
 }  // namespace

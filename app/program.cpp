@@ -1,9 +1,10 @@
 #include "app/program.h"
 
 #include "app/tick.h"
+#include "core/program_folder.h"
 
 Program::Program(const std::string& programFolder, Art& pictures)
-    : art(pictures), sound(programFolder, clock), scores(programFolder) {
+    : art(pictures), sound(programFolder, clock), scores(ScoresFolder(programFolder)) {
     game.session.AppPath = programFolder;
     game.settings = store.LoadSettings();
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });

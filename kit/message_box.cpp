@@ -3,7 +3,8 @@
 #include <QAbstractButton>
 #include <QMessageBox>
 
-static QMessageBox::Icon IconOf(MessageIcon icon) {
+namespace {
+QMessageBox::Icon IconOf(MessageIcon icon) {
     switch (icon) {
         case MessageIcon::Question:
             return QMessageBox::Question;
@@ -16,6 +17,7 @@ static QMessageBox::Icon IconOf(MessageIcon icon) {
     }
     return QMessageBox::NoIcon;
 }
+}  // namespace
 
 Answer ShowMessageBox(QWidget* parent, const Message& message) {
     const bool mayCancel = message.buttons == MessageButtons::OkCancel;

@@ -1,7 +1,9 @@
 #include "kit/qt_timers.h"
 
+namespace {
 // Ticks that the eye follows come on time; the others may be gathered by the system to wake up less often.
-static Qt::TimerType TypeFor(int interval) { return interval < 100 ? Qt::PreciseTimer : Qt::CoarseTimer; }
+Qt::TimerType TypeFor(int interval) { return interval < 100 ? Qt::PreciseTimer : Qt::CoarseTimer; }
+}  // namespace
 
 QtTimers::QtTimers(EventGate& gate) : gate_(gate) {
     for (Timer timer : allTimers)

@@ -1,8 +1,10 @@
 #include "table/commands.h"
 
+#include "core/effects.h"
 #include "core/hints.h"
 #include "core/music.h"
 #include "core/show.h"
+#include "core/timing.h"
 
 namespace {
 constexpr const char* webSite = "https://luckycup.example/";

@@ -88,7 +88,7 @@ struct WindowTable {
     HeadlessEffects effects{log};
     HeadlessMedia media{log};
     QtDialogs dialogs{window, gate, art};
-    TopScoreFiles scores{folder.path().toStdString() + '/'};
+    TopScoreFiles scores{folder.path().toStdString() + "/scores/"};
     LoggingShell shell{log};
     HeadlessStore store{log};
     TableParts parts;

@@ -86,7 +86,7 @@ void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Event
         made.boxes[row]->setAccessibleDescription(Called(column, RowName(row)));
         const auto hover = [hover = events.hover, column, row](bool on) { hover(column, row, on); };
         made.buttons[row] = new BoxButton(Index(button, row), table, art, Called(column, RowName(row)), hover);
-        QObject::connect(made.buttons[row], &QAbstractButton::clicked,
+        QObject::connect(made.buttons[row], &QAbstractButton::clicked, made.buttons[row],
                          [click = events.click, column, row] { click(column, row); });
     }
     for (TotalRow row : allTotalRows) {

@@ -67,13 +67,13 @@ void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
     ShowFree(i);
     ShowFace(i, i + 1);
     EnableDie(i, false);
-    QObject::connect(die.free, &QAbstractButton::clicked, [hold = events.hold, i] { hold(i); });
-    QObject::connect(die.held, &QAbstractButton::clicked, [release = events.release, i] { release(i); });
+    QObject::connect(die.free, &QAbstractButton::clicked, die.free, [hold = events.hold, i] { hold(i); });
+    QObject::connect(die.held, &QAbstractButton::clicked, die.held, [release = events.release, i] { release(i); });
 }
 
 void DiceTray::MakeRollButton(Art& art, const Events& events) {
-    QObject::connect(roll_, &QAbstractButton::pressed, events.rollDown);
-    QObject::connect(roll_, &QAbstractButton::released, events.rollUp);
+    QObject::connect(roll_, &QAbstractButton::pressed, roll_, events.rollDown);
+    QObject::connect(roll_, &QAbstractButton::released, roll_, events.rollUp);
     for (int k = 0; k < lampCount; ++k) {
         const QRect area = Pixels(Place{lampLefts[k], lampTop, lampSize, lampSize});
         darkLamps_[k] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
@@ -86,11 +86,11 @@ void DiceTray::MakeRollButton(Art& art, const Events& events) {
     nextPlayer_->setGeometry(Pixels(nextPlayerPlace));
     nextPlayer_->SetCaption("Next Player");
     nextPlayer_->hide();
-    QObject::connect(nextPlayer_, &QAbstractButton::clicked, events.nextPlayer);
+    QObject::connect(nextPlayer_, &QAbstractButton::clicked, nextPlayer_, events.nextPlayer);
     showBoard_ = new CaptionButton("cmdShowNextBoard", roll_);
     showBoard_->setGeometry(Pixels(showBoardPlace));
     ShowNextBoardButton(false, false);
-    QObject::connect(showBoard_, &QAbstractButton::clicked, events.showBoard);
+    QObject::connect(showBoard_, &QAbstractButton::clicked, showBoard_, events.showBoard);
 }
 
 void DiceTray::LayOut(int columns, int lastDieIndex) {

@@ -6,8 +6,8 @@
 #include <QLayout>
 #include <QScreen>
 
+#include "core/box_click.h"
 #include "core/hints.h"
-#include "core/placement.h"
 #include "core/turn.h"
 #include "core/two_players.h"
 #include "kit/pointers.h"
