@@ -1,13 +1,10 @@
 #include "sound/player/player.h"
 
-#include <filesystem>
-
+#include "core/program_folder.h"
 #include "sound/player/wave.h"
 
 Player::Player(const std::string& programFolder, Clock& clock, std::chrono::milliseconds idleTime)
-    : effectsFolder_(programFolder + "LCWAVS" + static_cast<char>(std::filesystem::path::preferred_separator)),
-      clock_(clock),
-      output_(idleTime) {}
+    : programFolder_(programFolder), clock_(clock), output_(idleTime) {}
 
 void Player::PlayEffect(std::string_view name) {
     std::shared_ptr<const Samples> samples = Effect(name);
@@ -34,7 +31,7 @@ int Player::MsToWait() {
 std::shared_ptr<const Samples> Player::Effect(std::string_view name) {
     std::shared_ptr<const Samples>& effect = effects_[std::string(name)];
     if (!effect) {
-        Samples samples = LoadWave(effectsFolder_ + std::string(name) + ".WAV");
+        Samples samples = LoadWave(ProgramFile(programFolder_, {"LCWAVS", std::string(name) + ".WAV"}));
         if (!samples.empty()) effect = std::make_shared<const Samples>(std::move(samples));
     }
     return effect;

@@ -22,7 +22,7 @@ private:
     void Open(MusicVoice& voice, const std::string& path);
     std::string CarryOut(const MediaCommand& command, MusicVoice& voice);
 
-    std::string effectsFolder_;
+    std::string programFolder_;
     Clock& clock_;
     std::unordered_map<std::string, std::shared_ptr<const Samples>> effects_;  // those that have been played
     Output output_;
