@@ -76,9 +76,7 @@ struct Recording {
     void AddEffect(const QString& name, int hz, int ms) { Write(Path("LCWAVS/" + name + ".WAV"), Wave(Tone(hz, ms))); }
     void AddMusic(const QString& name, const QByteArray& tones) {
         Write(Path("tones.wav"), Wave(tones));
-        ASSERT_EQ(QProcess::execute("lame",
-                                    {"--quiet", "--scale", "1", "-m", "m", "-b", "128", Path("tones.wav"), Path(name)}),
-                  0);
+        ASSERT_EQ(QProcess::execute("lame", {"--quiet", "-m", "m", "-b", "320", Path("tones.wav"), Path(name)}), 0);
     }
     std::string Open(const QString& name, const std::string& alias) const {
         return "open \"" + Path(name).toStdString() + "\" alias " + alias;
@@ -287,40 +285,28 @@ TEST(Player, DamagedFilesAreSilent) {
 }
 
 TEST(Player, EveryFileOfTheGameOpensAndHasItsLength) {
-    const std::tuple<const char*, double, double> effects[] = {{"rollAll", 0.5, 0.8},
-                                                               {"rollSome", 0.5, 0.8},
-                                                               {"rollOne", 0.5, 0.8},
-                                                               {"holdDice", 0.02, 0.12},
-                                                               {"UnHoldDice", 0.02, 0.12},
-                                                               {"LuckyCup", 1.5, 3},
-                                                               {"score", 0.1, 0.4},
-                                                               {"scoreZero", 0.1, 0.4},
-                                                               {"announce", 0.1, 1.5},
-                                                               {"hint", 0.1, 1.5},
-                                                               {"newGame", 0.1, 3},
-                                                               {"undo", 0.1, 1},
-                                                               {"redo", 0.1, 1},
-                                                               {"counter7", 0.5, 10},
-                                                               {"counter0", 0.05, 1},
-                                                               {"applause", 1.5, 3},
-                                                               {"draw", 1.5, 3}};
-    const std::tuple<const char*, double, double> pieces[] = {{"LCWAVS/GameOver1.mp3", 3, 6},
-                                                              {"LCWAVS/GameOver2.mp3", 4, 8},
-                                                              {"BGMusic/SONG01.mp3", 120, 240},
-                                                              {"BGMusic/SONG02.mp3", 120, 240},
-                                                              {"BGMusic/Intro.mp3", 15, 40}};
-    const auto expect = [](const char* name, double seconds, double least, double most) {
-        EXPECT_TRUE(seconds >= least && seconds <= most) << name << ' ' << seconds;
+    struct Limits {
+        double least, most;  // seconds
+        const char* names;
     };
-    for (const auto& [name, least, most] : effects) {
-        const Samples samples = LoadWave(SOUNDS "LCWAVS/" + std::string(name) + ".WAV");
-        expect(name, static_cast<double>(samples.size()) / samplesPerFrame / framesPerSecond, least, most);
-    }
-    for (const auto& [name, least, most] : pieces) {
-        const auto piece = Mp3::Open(std::string(SOUNDS) + name);
-        ASSERT_TRUE(piece) << name;
-        expect(name, piece->Length() / 1000.0, least, most);
-    }
+    const Limits limits[] = {{0.4, 0.8, "LCWAVS/rollAll.WAV LCWAVS/rollSome.WAV LCWAVS/rollOne.WAV"},
+                             {0.02, 0.12, "LCWAVS/holdDice.WAV LCWAVS/UnHoldDice.WAV"},
+                             {0.1, 0.4, "LCWAVS/score.WAV LCWAVS/scoreZero.WAV LCWAVS/counter0.WAV"},
+                             {0.1, 1.5, "LCWAVS/announce.WAV LCWAVS/hint.WAV LCWAVS/undo.WAV LCWAVS/redo.WAV"},
+                             {1, 3, "LCWAVS/LuckyCup.WAV LCWAVS/applause.WAV LCWAVS/draw.WAV LCWAVS/newGame.WAV"},
+                             {1.5, 10, "LCWAVS/counter7.WAV"},
+                             {3, 6, "LCWAVS/GameOver1.mp3"},
+                             {4, 8, "LCWAVS/GameOver2.mp3"},
+                             {120, 240, "BGMusic/SONG01.mp3 BGMusic/SONG02.mp3"},
+                             {15, 40, "BGMusic/Intro.mp3"}};
+    for (const auto& [least, most, names] : limits)
+        for (const QString& name : QString(names).split(' ')) {
+            const std::string path = SOUNDS + name.toStdString();
+            const auto piece = name.endsWith("mp3") ? Mp3::Open(path) : nullptr;
+            const double frames = static_cast<double>(LoadWave(path).size()) / samplesPerFrame;
+            const double seconds = piece ? piece->Length() / 1000.0 : frames / framesPerSecond;
+            EXPECT_TRUE(seconds >= least && seconds <= most) << path << ' ' << seconds;
+        }
 }
 
 // The whole program in a folder of its own, with sounds that can be told from each other.

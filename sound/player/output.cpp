@@ -63,6 +63,7 @@ void Output::Serve(std::shared_ptr<Shared> shared, std::chrono::milliseconds idl
         shared->device = Device::Closed;
         if (!id && !shared->leave) shared->changed.wait_for(lock, retryTime);
     }
+    SDL_TLSCleanup();  // which SDL does for its own threads only
     shared->left = true;
     shared->changed.notify_all();
 }
