@@ -31,7 +31,7 @@ void AddMusic(std::span<std::int16_t> out, MusicVoice& voice, Samples& decoded) 
 }  // namespace
 
 int EffectVoice::Left() const {
-    constexpr std::size_t samplesPerSecond = framesPerSecond * samplesPerFrame;
+    constexpr std::size_t samplesPerSecond = std::size_t{framesPerSecond} * samplesPerFrame;
     return samples ? static_cast<int>((samples->size() - next) * 1000 / samplesPerSecond) + 1 : 0;
 }
 

@@ -41,7 +41,7 @@ bool Output::IsHeard(const EffectVoice& effect) const {
     return SoundClock::now() - waitsSince < patience;
 }
 
-void Output::Serve(std::shared_ptr<Shared> shared, std::chrono::milliseconds idleTime) {
+void Output::Serve(const std::shared_ptr<Shared>& shared, std::chrono::milliseconds idleTime) {
     std::unique_lock lock(shared->mutex);
     while (!shared->leave) {
         if (!shared->mixer.Sounds()) {

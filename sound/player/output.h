@@ -40,7 +40,7 @@ private:
         bool leave = false, left = false;
     };
 
-    static void Serve(std::shared_ptr<Shared> shared, std::chrono::milliseconds idleTime);
+    static void Serve(const std::shared_ptr<Shared>& shared, std::chrono::milliseconds idleTime);
     static void KeepOpen(Shared& shared, std::unique_lock<std::mutex>& lock, unsigned id,
                          std::chrono::milliseconds idleTime);
     static unsigned OpenDevice(Shared& shared);
