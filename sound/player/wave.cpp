@@ -8,8 +8,8 @@ namespace {
 
 Samples Convert(const SDL_AudioSpec& spec, const Uint8* wave, Uint32 length) {
     SDL_AudioCVT plan;
-    if (SDL_BuildAudioCVT(&plan, spec.format, spec.channels, spec.freq, AUDIO_S16SYS, samplesPerFrame,
-                          framesPerSecond) < 0)
+    if (length == 0 || SDL_BuildAudioCVT(&plan, spec.format, spec.channels, spec.freq, AUDIO_S16SYS, samplesPerFrame,
+                                         framesPerSecond) < 0)
         return {};
     std::vector<Uint8> bytes(length * static_cast<std::size_t>(plan.len_mult));
     std::memcpy(bytes.data(), wave, length);
