@@ -32,11 +32,11 @@ namespace {
 
 // Never waits, be it a pipe that lies there. With the wish to make a file a folder cannot be opened.
 int OpenForLock(const QString& path, LockOn on) {
-    constexpr int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW | O_CLOEXEC;
+    constexpr int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const QByteArray name = QFile::encodeName(path);
     if (on == LockOn::Folder) return open(name, flags | O_DIRECTORY);
-    const int made = open(name, flags | O_CREAT, 0600);
-    return made >= 0 ? made : open(name, flags);
+    const int made = open(name, flags | O_NOFOLLOW | O_CREAT, 0600);
+    return made >= 0 ? made : open(name, flags | O_NOFOLLOW);
 }
 
 }  // namespace

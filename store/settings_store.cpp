@@ -15,6 +15,12 @@
 
 namespace {
 
+#ifdef Q_OS_WIN
+constexpr bool keptInFile = false;  // but in the registry
+#else
+constexpr bool keptInFile = true;
+#endif
+
 // The number that a stored text stands for; -1 when it is none.
 int StoredNumber(const std::string& text, const NumberSetting& setting) {
     if (setting.readFromStart) {
@@ -109,18 +115,13 @@ void RegSetString(QSettings& key, std::string_view name, const std::string& text
 }
 
 QString UserSettingsPath() {
-#ifdef Q_OS_WIN
-    return "HKEY_CURRENT_USER\\Software\\LuckyCup\\LuckyCup2.2";
-#else
+    if (!keptInFile) return "HKEY_CURRENT_USER\\Software\\LuckyCup\\LuckyCup2.2";
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/LuckyCup/LuckyCup2.2.conf";
-#endif
 }
 
 GameSettings RegistrySettings::LoadSettings() {
     GameSettings settings;
-#ifndef Q_OS_WIN
-    if (!IsStore(QFileInfo(path_))) return settings;
-#endif
+    if (keptInFile && !IsStore(QFileInfo(path_))) return settings;
     const QSettings key(path_, QSettings::NativeFormat);
     if (RegGetString(key, "NumberOfDice", "").empty()) return settings;
 
@@ -135,14 +136,13 @@ GameSettings RegistrySettings::LoadSettings() {
 }
 
 void RegistrySettings::SaveSettings(const GameSettings& settings) {
-#ifdef Q_OS_WIN
-    QSettings key(path_, QSettings::NativeFormat);
-    Write(key, settings);
-#else
+    if (!keptInFile) {
+        QSettings key(path_, QSettings::NativeFormat);
+        return Write(key, settings);
+    }
     const QFileInfo old(path_);
     if (old.exists() && !(old.isFile() && old.isWritable())) return;
     const QByteArray store = WithSettings(IsStore(old) ? BytesOf(path_) : QByteArray(), settings);
     if (store.isEmpty() || !QDir().mkpath(old.path())) return;
     ReplaceFile(path_, store, ownersOnly);
-#endif
 }

@@ -10,7 +10,7 @@
 std::string RegGetString(const QSettings& key, std::string_view name, const std::string& otherwise);
 void RegSetString(QSettings& key, std::string_view name, const std::string& text);
 
-// Where the user's settings lie; "" where the system keeps them in no file.
+// Where the user's settings lie: a file or, on Windows, a key of the registry.
 QString UserSettingsPath();
 
 // The user's settings: fifteen named texts. A store that cannot be read counts as empty, and one that cannot be

@@ -17,7 +17,10 @@ LockAttempt TryOnce(const QString& path, LockOn on) { return FileLock().Try(path
 
 TEST(FileLock, IsHeldByOneAndEndsWithItsOwner) {
     const QTemporaryDir folder;
-    for (const auto& [path, on] : {std::pair{folder.filePath("lock"), LockOn::File}, {folder.path(), LockOn::Folder}}) {
+    ASSERT_TRUE(QFile::link(folder.path(), folder.filePath("link")));
+    for (const auto& [path, on] : {std::pair{folder.filePath("lock"), LockOn::File},
+                                   {folder.path(), LockOn::Folder},
+                                   {folder.filePath("link"), LockOn::Folder}}) {
         int held[2];
         ASSERT_EQ(pipe(held), 0);
         const pid_t child = fork();
