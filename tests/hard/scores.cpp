@@ -2,7 +2,6 @@
 // write to as well.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <QDir>
@@ -76,11 +75,9 @@ TEST_F(HardScores, KilledWhileRecording) {
 
 TEST_F(HardScores, EveryPlaceOnAFullDisk) {
     for (int score = 1; score <= 25; ++score) Record(score);
-    for (rlim_t room = 0; room <= 484; ++room) {
+    for (const rlim_t room : Rooms(484, Rounds(50), random)) {
         const pid_t child = Start([&] {
-            const rlimit limit{room, room};
-            std::signal(SIGXFSZ, SIG_IGN);
-            setrlimit(RLIMIT_FSIZE, &limit);
+            LimitFiles(room);
             try {
                 Record(26);
             } catch (const ScoreFileError&) {
@@ -138,7 +135,7 @@ TEST_F(HardScores, WhateverLiesInTheFolder) {
     const auto plant = [&](const char* end) {
         return plants[random() % std::size(plants)](QFile::encodeName(Path(end)));
     };
-    for (int round = 0; round < Rounds(300); ++round) {
+    for (int round = 0; round < Rounds(150); ++round) {
         for (const QString& name : Names())
             ASSERT_TRUE(QFile::remove(folder.filePath(name)) || QDir(folder.path()).rmdir(name));
         QFile::remove(theirs);

@@ -131,7 +131,7 @@ def main():
     arguments = argparse.ArgumentParser(description=__doc__)
     arguments.add_argument("tool")
     arguments.add_argument("--seed", type=int, default=0)
-    arguments.add_argument("--lines", type=int, default=20000)
+    arguments.add_argument("--lines", type=int, default=10000)
     arguments = arguments.parse_args()
     pick = random.Random(arguments.seed)
     done = runs = 0

@@ -1,7 +1,6 @@
 // The settings of a store that is damaged, of a process that is killed while it saves, and of a full disk.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QFile>
@@ -73,7 +72,7 @@ protected:
 // it did. Everything else is at its first run's value or, as far as one can be read of it, at one that it may have.
 TEST_F(HardSettings, Damaged) {
     const Fields first = FieldsOf({});
-    for (int round = 0; round < Rounds(500); ++round) {
+    for (int round = 0; round < Rounds(150); ++round) {
         const GameSettings settings = Changed();
         const Fields stored = FieldsOf(settings);
         QByteArray bytes = StoreOf(settings, NewPath());
@@ -118,7 +117,7 @@ TEST_F(HardSettings, WrongValueOfOneField) {
         "",    "-1",  "99999999999999999999", "1, 2",    "@ByteArray(x)", "@Variant(\\0\\0\\0\\x9)", "no", "\\x0",
         "0x2", "nan", "@Invalid()",           "\xff\xfe"};
     const Fields first = FieldsOf({});
-    for (int round = 0; round < Rounds(500); ++round) {
+    for (int round = 0; round < Rounds(150); ++round) {
         const GameSettings settings = Changed();
         const Fields stored = FieldsOf(settings);
         const auto i = static_cast<std::size_t>(1 + Pick(std::size(settingFields) - 1));  // not the number of dice
@@ -138,7 +137,7 @@ TEST_F(HardSettings, WrongValueOfOneField) {
 
 TEST_F(HardSettings, KilledWhileSaving) {
     const QString path = NewPath();
-    for (int round = 0; round < Rounds(500) / 5; ++round) {
+    for (int round = 0; round < Rounds(150) / 5; ++round) {
         const GameSettings old = Changed();
         const QByteArray before = StoreOf(old, path);
         const GameSettings wanted = Changed();
@@ -156,11 +155,9 @@ TEST_F(HardSettings, EveryPlaceOnAFullDisk) {
     const GameSettings old = Changed();
     const GameSettings wanted = Changed();
     const qsizetype needed = std::max(StoreOf(old, path).size(), StoreOf(wanted, NewPath()).size());
-    for (rlim_t room = 0; room < static_cast<rlim_t>(needed) + 4; ++room) {
+    for (const rlim_t room : Rooms(static_cast<rlim_t>(needed), Rounds(50), random)) {
         const pid_t child = Start([&] {
-            const rlimit limit{room, room};
-            std::signal(SIGXFSZ, SIG_IGN);
-            setrlimit(RLIMIT_FSIZE, &limit);
+            LimitFiles(room);
             RegistrySettings(path).SaveSettings(wanted);
         });
         ASSERT_EQ(StatusOf(child), 0);
