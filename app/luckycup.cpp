@@ -37,6 +37,5 @@ int Main(QApplication& app) {
     Art art;
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(ProgramFolder(), art);
-    program.ShowMainWindow();
-    return app.exec();
+    return program.Start() ? app.exec() : 0;
 }

@@ -1,10 +1,12 @@
 #include "app/program.h"
 
 #include "app/tick.h"
+#include "core/start.h"
 
-Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(programFolder) {
+Program::Program(const std::string& programFolder, Art& pictures)
+    : art(pictures), scores(programFolder), shell(programFolder, programFolder + "scores", pictures) {
     game.session.AppPath = programFolder;
-    game.settings = store.LoadSettings();
+    dialogs.SetShowMainWindow([this] { ShowMainWindow(); });
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }
 
@@ -15,3 +17,5 @@ void Program::ShowMainWindow() {
     window.Load(game);
     window.show();
 }
+
+bool Program::Start() { return ::Start(game); }

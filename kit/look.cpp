@@ -1,6 +1,7 @@
 #include "kit/look.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPalette>
 
 namespace {
@@ -43,4 +44,10 @@ void ApplyLook() {
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
     QCoreApplication::setApplicationName("LuckyCup");
+}
+
+void SetGameIcon(Art& art) {
+    QIcon icon;
+    for (int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(art.Scaled("icon", {size, size}, 1));
+    QApplication::setWindowIcon(icon);
 }

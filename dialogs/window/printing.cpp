@@ -1,0 +1,43 @@
+#include "dialogs/window/printing.h"
+
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSaveFile>
+
+#include "kit/message_box.h"
+
+namespace {
+
+bool WritePdf(const QPrinter& printer, const QTextDocument& document) {
+    QSaveFile file(printer.outputFileName());
+    if (!file.open(QIODevice::WriteOnly)) return false;
+    {
+        QPdfWriter pdf(&file);
+        pdf.setPageLayout(printer.pageLayout());
+        pdf.setTitle(printer.docName());
+        document.print(&pdf);
+    }
+    return file.commit();
+}
+
+bool PrintOn(QPrinter& printer, const QTextDocument& document) {
+    if (!printer.outputFileName().isEmpty()) return WritePdf(printer, document);
+    document.print(&printer);
+    return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
+}
+
+void Tell(QWidget& window, MessageIcon icon, const QString& text) {
+    ShowMessageBox(&window, {"Print", text.toStdString(), icon, MessageButtons::Ok});
+}
+
+}  // namespace
+
+void Print(QWidget& window, const QTextDocument& document, const QString& title) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(title);
+    if (QPrinterInfo::defaultPrinter().isNull() && QPrintDialog(&printer, &window).exec() != QDialog::Accepted)
+        return Tell(window, MessageIcon::Information, "Nothing was printed.");
+    if (!PrintOn(printer, document)) Tell(window, MessageIcon::Warning, QString("%1 could not be printed.").arg(title));
+}
