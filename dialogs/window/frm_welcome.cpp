@@ -6,6 +6,7 @@
 
 #include "dialogs/window/title_texts.h"
 #include "kit/controls.h"
+#include "kit/look.h"
 
 namespace {
 constexpr int left = 352, right = 5752;  // the edges of the picture, to which the rest keeps
