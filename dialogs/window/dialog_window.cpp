@@ -12,12 +12,12 @@ DialogWindow::DialogWindow(QWidget* owner, const char* name, const char* caption
     setFont(TableFont(false));
 }
 
-void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow) {
+void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share) {
     // Its own frame is not known before it is shown; it is as thick as that of the other window.
     const QRect outer = window.frameGeometry();
     const QSize frame = size() + outer.size() - window.size();
     move(outer.left() + (outer.width() - frame.width()) / 2,
-         outer.top() + (outer.height() - frame.height()) / 2 + Pixels(twipsBelow));
+         outer.top() + qRound((outer.height() - frame.height()) * share) + Pixels(twipsBelow));
 }
 
 void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {
