@@ -422,8 +422,9 @@ TEST(Help, IsReadByMouseAndKeys) {
     Help help(HelpText());
     help.shell.ShowHelpContents();
     QWidget& window = *Shown("Help");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     auto& view = In<QTextBrowser>(window, "text");
-    const auto firstShown = [&] { return view.cursorForPosition({20, 25}).block().text(); };
+    const auto firstShown = [&] { return view.cursorForPosition({20, 5}).block().text(); };
     auto& contents = In<QTreeWidget>(window, "contents");
     const auto undo = contents.findItems("Undo and redo", Qt::MatchExactly | Qt::MatchRecursive);
     ASSERT_EQ(undo.size(), 1);

@@ -84,14 +84,15 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
 QLayout* HelpWindow::MakeBar(Art& art) {
     auto* bar = new QHBoxLayout;
     const QCursor hand = HandPointer(art, devicePixelRatioF());
-    const auto add = [&](const char* name, const char* caption, const char* tip, const QKeySequence& key, auto click) {
+    const auto add = [&](const char* name, const char* caption, const char* tip, QKeySequence::StandardKey key,
+                         auto click) {
         auto* button = new QPushButton(caption);
         button->setObjectName(name);
-        button->setToolTip(QString("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+        button->setToolTip(QString("%1 (%2)").arg(tip, QKeySequence(key).toString(QKeySequence::NativeText)));
         button->setAccessibleName(tip);
-        button->setShortcut(key);
         button->setCursor(hand);
         connect(button, &QPushButton::clicked, this, click);
+        connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
         bar->addWidget(button);
         return button;
     };
@@ -133,6 +134,7 @@ void HelpWindow::AddContents() {
     const auto go = [this](QTreeWidgetItem* item) {
         text_->setSource(QUrl("#" + item->data(0, Qt::UserRole).toString()));
     };
+    if (QTreeWidgetItem* first = contents_->topLevelItem(0)) go(first);  // where Back can come to
     connect(contents_, &QTreeWidget::itemClicked, this, go);
     connect(contents_, &QTreeWidget::itemActivated, this, go);
 }
