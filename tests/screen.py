@@ -28,8 +28,9 @@ class Screen:
         self._folder = tempfile.TemporaryDirectory(prefix="lucky-cup-")
         self._programs = []
         read, write = os.pipe()
+        # A server that resets when its last window has gone refuses a program that starts at that moment.
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self._folder.name],
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self._folder.name],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as answer:
