@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include "app/program.h"
+#include "core/program_folder.h"
 #include "kit/message_box.h"
 #include "table/window/first_pictures.h"
 
@@ -21,20 +22,19 @@ bool RunsAlready(QLockFile& lock) {
 }
 
 std::string ProgramFolder() {
-    const QString folder = QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
-    return (folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator()).toStdString();
+    return AsFolder(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString());
 }
 
 }  // namespace
 
 int Main(QApplication& app) {
+    Art art;
     QLockFile lock(LockPath());
     if (RunsAlready(lock)) {
-        ShowMessageBox(nullptr,
+        ShowMessageBox(nullptr, art,
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;
     }
-    Art art;
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(ProgramFolder(), art);
     return program.Start() ? app.exec() : 0;

@@ -1,10 +1,11 @@
 #include "app/program.h"
 
 #include "app/tick.h"
+#include "core/program_folder.h"
 #include "core/start.h"
 
 Program::Program(const std::string& programFolder, Art& pictures)
-    : art(pictures), scores(programFolder), shell(programFolder, programFolder + "scores", pictures) {
+    : art(pictures), scores(ScoresFolder(programFolder)), shell(programFolder, ScoresFolder(programFolder), pictures) {
     game.session.AppPath = programFolder;
     dialogs.SetShowMainWindow([this] { ShowMainWindow(); });
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "bench/null_table.h"
-#include "core/placement.h"
+#include "core/box_click.h"
 #include "core/row_scores.h"
 #include "core/turn.h"
 #include "table/score_counter.h"

@@ -1,17 +1,19 @@
+#include "core/announce.h"
+
 #include <string>
 #include <utility>
 
+#include "core/effects.h"
 #include "core/end_of_game.h"
-#include "core/placement.h"
+#include "core/placement_steps.h"
 #include "core/row_scores.h"
 #include "core/show.h"
+#include "core/timing.h"
 
-// The announce column. One click handler does both jobs: it announces a box between the first and the second roll,
-// and it writes the announced box.
+// One click handler does both jobs: it announces a box between the first and the second roll, and it writes the
+// announced box.
 
 namespace {
-
-using namespace placement;
 
 void GiveRollBackAfterReminder(Game& game) {
     if (game.session.RollAllowed) return;

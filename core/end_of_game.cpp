@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "core/effects.h"
 #include "core/music.h"
 #include "core/show.h"
+#include "core/timing.h"
 #include "core/top_scores.h"
 #include "core/undo.h"
 
@@ -69,7 +71,7 @@ enum class Result { GoesOn, IsOver };
 
 Result ShowResultOfTwo(Game& game) {
     GameSession& session = game.session;
-    if (session.LastScorePosition >= 1 && session.LastScorePosition <= scoreRecords) game.dialogs.frmScores2(game);
+    if (ReachedTopScores(session)) game.dialogs.frmScores2(game);
     if (!SecondPlayerOnMove(game)) {
         session.FinalScore1 = session.Total;
         return Result::GoesOn;

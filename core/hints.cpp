@@ -13,7 +13,7 @@ void ShowHints(Game& game) {
         SetTipText(game, session.CurrentRow, std::to_string(session.RowScore));
     for (int row = 0; row < rowCount; ++row) {
         ScoreRowOf(game, row);
-        if (session.RowScore > 0 && RowOffered(game, row)) SetTipText(game, row, std::to_string(session.RowScore));
+        if (session.RowScore > 0 && RowOffered(game.card, row)) SetTipText(game, row, std::to_string(session.RowScore));
     }
     game.dice.DiceValues = lying;
     session.ComputeOnly = false;

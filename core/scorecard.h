@@ -56,5 +56,7 @@ struct ColumnCard {
 
 using Scorecard = ByColumn<ColumnCard>;
 
+bool RowOffered(const Scorecard& card, int row);  // in any column
+
 // The number that a box or total text stands for; an empty text counts as 0.
 int TextValue(const std::string& text);

@@ -1,10 +1,8 @@
 #include "core/show.h"
 
-#include <algorithm>
+#include <utility>
 
-namespace {
-const std::string titleStart = "Lucky Cup - ";
-}
+#include "core/player_texts.h"
 
 void SetRollPicture(Game& game, RollPicture kind) {
     game.table.roll.picture = kind;
@@ -81,10 +79,6 @@ void EnableColumnButtons(Game& game, ScoreColumn column, bool on) {
     for (int row = 0; row < rowCount; ++row) EnableBoxButton(game, column, row, on);
 }
 
-bool RowOffered(const Game& game, int row) {
-    return std::ranges::any_of(allColumns, [&](ScoreColumn column) { return game.card[column].offered[row]; });
-}
-
 void SetBoxText(Game& game, ScoreColumn column, int row, std::string text) {
     std::string& box = game.card[column].boxes[row];
     box = std::move(text);
@@ -138,9 +132,7 @@ void SetTitle(Game& game, std::string text) {
     game.view.SetTitle(game.table.title);
 }
 
-void SetTitleFor(Game& game, const std::string& player) { SetTitle(game, titleStart + player); }
-
-bool TitleNames(const Game& game, const std::string& player) { return game.table.title == titleStart + player; }
+void SetTitleFor(Game& game, const std::string& player) { SetTitle(game, TitleFor(player)); }
 
 void SetWindowHeight(Game& game, int twips) {
     game.table.height = twips;
@@ -190,31 +182,12 @@ void ShowNextBoardButton(Game& game, bool visible, bool enabled) {
     game.view.ShowNextBoardButton(visible, enabled);
 }
 
-std::string ShowBoardCaption(const std::string& name) { return "    Show      " + name + "'s  Board"; }
-
-void SetShowBoardCaption(Game& game, const std::string& name) {
-    game.table.showBoard.caption = ShowBoardCaption(name);
+void SetShowBoardCaption(Game& game, const std::string& player) {
+    game.table.showBoard.caption = ShowBoardCaption(player);
     game.view.SetShowBoardCaption(game.table.showBoard.caption);
 }
 
-void EnableTimer(Game& game, Timer timer) {
-    TimerState& state = game.table.timers[timer];
-    if (state.enabled) return;
-    state.enabled = true;
-    game.timers.Start(timer, state.interval);
-}
-
-void DisableTimer(Game& game, Timer timer) {
-    game.table.timers[timer].enabled = false;
-    game.timers.Stop(timer);
-}
-
-void SetTimerInterval(Game& game, Timer timer, int ms) {
-    TimerState& state = game.table.timers[timer];
-    state.interval = ms;
-    if (state.enabled) game.timers.Start(timer, ms);
-}
-
-void PlayEffect(Game& game, std::string_view name) {
-    if (game.session.SoundOn) game.effects.PlayEffect(name);
+void ShowCounterPicture(Game& game, CounterPicture picture) {
+    game.view.CopyPicture(picture, CounterPicture::picScore);
+    game.view.RefreshCounter();
 }

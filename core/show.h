@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 
 #include "core/game.h"
 
@@ -24,7 +24,6 @@ void ShowBoxButton(Game& game, ScoreColumn column, int row, bool on);
 void EnableBoxButton(Game& game, ScoreColumn column, int row, bool on);
 void ShowColumnButtons(Game& game, ScoreColumn column, bool on);    // all thirteen
 void EnableColumnButtons(Game& game, ScoreColumn column, bool on);  // all thirteen
-bool RowOffered(const Game& game, int row);                         // in any column
 void SetBoxText(Game& game, ScoreColumn column, int row, std::string text);
 void SetTotalText(Game& game, ScoreColumn column, TotalRow row, std::string text);
 void ClearBoxTexts(Game& game);  // boxes and tips
@@ -37,8 +36,7 @@ void HighlightRowLabel(Game& game, int row);
 void ResetRowLabel(Game& game, int row);
 
 void SetTitle(Game& game, std::string text);
-void SetTitleFor(Game& game, const std::string& player);  // "Lucky Cup - " and the name
-bool TitleNames(const Game& game, const std::string& player);
+void SetTitleFor(Game& game, const std::string& player);
 void SetWindowHeight(Game& game, int twips);
 void SetPanelText(Game& game, int k, std::string text);
 void SetPanelLayout(Game& game, int k, int width, bool visible);
@@ -49,11 +47,6 @@ void SetRedoEnabled(Game& game, bool on);
 void SetHintButtonEnabled(Game& game, bool on);
 void ShowNextPlayer(Game& game, bool on);
 void ShowNextBoardButton(Game& game, bool visible, bool enabled);
-void SetShowBoardCaption(Game& game, const std::string& name);
-std::string ShowBoardCaption(const std::string& name);
+void SetShowBoardCaption(Game& game, const std::string& player);
 
-void EnableTimer(Game& game, Timer timer);  // a running timer just runs on
-void DisableTimer(Game& game, Timer timer);
-void SetTimerInterval(Game& game, Timer timer, int ms);
-
-void PlayEffect(Game& game, std::string_view name);  // if SoundOn is set
+void ShowCounterPicture(Game& game, CounterPicture picture);  // in the place of picScore

@@ -1,7 +1,7 @@
 #include "core/top_scores.h"
 
 int ScoreFileNumber(const GameSettings& settings) {
-    const int firstOfType = settings.NumberOfColumns == 4 ? 1 : 3;
+    const int firstOfType = FourColumns(settings) ? 1 : 3;
     return settings.NumberOfDice == 5 ? firstOfType : firstOfType + 1;
 }
 
@@ -15,6 +15,10 @@ bool RecordTopScore(Game& game, int finalScore, const std::string& playerName) {
         ShowScoreFileError(game, error);
         return false;
     }
+}
+
+bool ReachedTopScores(const GameSession& session) {
+    return session.LastScorePosition >= 1 && session.LastScorePosition <= scoreRecords;
 }
 
 void ShowScoreFileError(Game& game, const ScoreFileError& error) {

@@ -11,5 +11,7 @@ int ScoreFileNumber(const GameSettings& settings);
 // when the file failed: LastScorePosition then keeps its value.
 bool RecordTopScore(Game& game, int finalScore, const std::string& playerName);
 
+bool ReachedTopScores(const GameSession& session);  // LastScorePosition is a place of the table, 1 to 20
+
 // Tells the player of a file that was not found; every other failure passes in silence.
 void ShowScoreFileError(Game& game, const ScoreFileError& error);

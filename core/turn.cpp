@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "core/announce.h"
+#include "core/effects.h"
 #include "core/hints.h"
-#include "core/placement.h"
 #include "core/row_scores.h"
 #include "core/show.h"
 #include "core/two_players.h"
@@ -161,7 +162,7 @@ Turn RollDice(Game& game) {
 }
 
 void PlayFanfare(Game& game) {
-    if (!game.session.SoundOn || !RowOffered(game, rowLuckyCup)) return;
+    if (!game.session.SoundOn || !RowOffered(game.card, rowLuckyCup)) return;
     const auto lying = game.dice.DiceValues;
     SortDice(game.dice);
     game.session.ComputeOnly = true;

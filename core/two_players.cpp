@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/player_texts.h"
 #include "core/show.h"
 
 namespace {
@@ -104,7 +105,7 @@ void SwapBoardOneColumn(Game& game) {
 void cmdShowNextBoard_Click(Game& game) {
     const std::string& first = game.settings.Player1;
     const std::string& second = game.settings.Player2;
-    const bool toFirst = game.table.showBoard.caption == ShowBoardCaption(first);
+    const bool toFirst = CaptionNames(game, first);
     const std::string& shown = toFirst ? first : second;
     SetShowBoardCaption(game, toFirst ? second : first);
     SetTitleFor(game, shown);

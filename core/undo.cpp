@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "core/column_totals.h"
-#include "core/placement.h"
+#include "core/effects.h"
+#include "core/placement_steps.h"
 #include "core/show.h"
 
 // Undo keeps no snapshot of the board: it takes the last value out of its column by arithmetic. Redo plays the
@@ -65,7 +66,8 @@ void SetTotalOrEmpty(Game& game, ScoreColumn column, TotalRow row, int value) {
 
 void TakeOutOfUpperSection(Game& game, ScoreColumn column, int points) {
     if (int* count = UpperCount(game.session, column)) --*count;
-    SetTotalOrEmpty(game, column, TotalRow::SubTotal, TotalValue(game, column, TotalRow::SubTotal) - points);
+    SetTotalOrEmpty(game, column, TotalRow::SubTotal,
+                    std::max(TotalValue(game, column, TotalRow::SubTotal) - points, 0));
     if (!game.session.BonusGiven[column]) return;
     AddToTotal(game, column, TotalRow::SubTotal, -bonusPoints);
     AddToTotal(game, column, TotalRow::ColumnTotal, -bonusPoints);
@@ -132,11 +134,6 @@ void OpenAnnounceColumn(Game& game) {
     if (session.AnnounceResume) OpenBox(game, ScoreColumn::Oblg, session.CurrentRow);
 }
 
-void ShowCounterPicture(Game& game, CounterPicture picture) {
-    game.view.CopyPicture(picture, CounterPicture::picScore);
-    game.view.RefreshCounter();
-}
-
 int RebuiltColumnTotal(const Game& game, ScoreColumn column) {
     int sum = TotalValue(game, column, TotalRow::SubTotal) + TotalValue(game, column, TotalRow::Product);
     for (int row = rowThreeOfAKind; row <= rowLuckyCup; ++row) sum += TextValue(game.card[column].boxes[row]);
@@ -180,40 +177,4 @@ void mnuUndoUndo_Click(Game& game) {
     if (announcedOnly) return;
     ShowCounterPicture(game, CounterPicture::picBuffer1);
     RepairTotals(game, oldTotal, oldColumn);
-}
-
-namespace {
-
-void ReplaySilently(Game& game, ScoreColumn column) {
-    game.session.RedoInProgress = true;
-    game.session.CounterSkip = true;
-    ClickBox(game, column, game.session.CurrentRow);
-}
-
-// Returns true when the one click was all there was to put back: an announcement, or the writing of a box whose
-// announcement had stood.
-bool RedoneByOneClick(Game& game) {
-    GameSession& session = game.session;
-    if (session.PrevColumn != ScoreColumn::Oblg || session.RedoAnnounceTwice) return false;
-    PlayEffect(game, "redo");
-    if (session.AnnounceResume)
-        ShowCounterPicture(game, CounterPicture::picBuffer0);
-    else
-        session.CounterSkip = false;
-    return true;
-}
-
-}  // namespace
-
-void mnuUndoRedo_Click(Game& game) {
-    GameSession& session = game.session;
-    session.MayHint = !session.MayHint;
-    if (TwoPlayers(game.settings) && session.AnnounceResume) ShowNextPlayer(game, true);
-    SetRedoEnabled(game, false);
-    ReplaySilently(game, session.PrevColumn);
-    if (RedoneByOneClick(game)) return;
-    if (session.PrevColumn == ScoreColumn::Oblg) ReplaySilently(game, ScoreColumn::Oblg);
-    PlayEffect(game, "redo");
-    SetUndoEnabled(game, true);
-    ShowCounterPicture(game, CounterPicture::picBuffer0);
 }

@@ -2,6 +2,5 @@
 
 #include "core/game.h"
 
-// One level. Both run only while their command is enabled, but for the Undo of the end-of-game dialog.
+// One level. Runs only while its command is enabled, but for the Undo of the end-of-game dialog.
 void mnuUndoUndo_Click(Game& game);
-void mnuUndoRedo_Click(Game& game);

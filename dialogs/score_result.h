@@ -5,6 +5,5 @@
 #include "core/game.h"
 
 // What frmScores2 tells of the game that has just ended, and how it sounds.
-bool ReachedTopScores(const Game& game);        // LastScorePosition is a place of the table, 1 to 20
 std::string ScoreResultText(const Game& game);  // two lines, parted by CR and LF
 void PlayScoreResultJingle(Game& game);

@@ -2,7 +2,8 @@
 
 #include <QSvgRenderer>
 
-// The resources lie in a static library, which the linker would take without them.
+// The resources lie in a static library, which the linker would take without them. The macro must not stand in a
+// namespace.
 static void TakeResources() { Q_INIT_RESOURCE(art); }
 
 namespace {

@@ -12,10 +12,8 @@ void EventGate::Run(Handler handler) {
 }
 
 void EventGate::Enter(const Handler& handler) {
-    ++depth_;
+    const Inside inside(*this);
     handler();
-    --depth_;
-    RunLater();
 }
 
 void EventGate::RunLater() {
@@ -30,6 +28,13 @@ void EventGate::RunFirstWaiting() {
     const Handler handler = std::move(waiting_.front());
     waiting_.pop_front();
     Enter(handler);
+}
+
+EventGate::Inside::Inside(EventGate& gate) : gate_(gate) { ++gate_.depth_; }
+
+EventGate::Inside::~Inside() {
+    --gate_.depth_;
+    gate_.RunLater();
 }
 
 EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) { gate_.RunLater(); }

@@ -28,6 +28,15 @@ public:
     };
 
 private:
+    // Stands around a handler, however it ends.
+    struct Inside {
+        explicit Inside(EventGate& gate);
+        ~Inside();
+        Inside(const Inside&) = delete;
+        Inside& operator=(const Inside&) = delete;
+        EventGate& gate_;
+    };
+
     void Enter(const Handler& handler);
     void RunLater();
     void RunFirstWaiting();

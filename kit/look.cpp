@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
+#include <QToolTip>
+
+#include "kit/controls.h"
 
 namespace {
 struct RoleColour {
@@ -43,6 +46,8 @@ void ApplyLook() {
     for (const RoleColour& entry : disabledColours)
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
+    QApplication::setFont(TableFont(false));
+    QToolTip::setFont(TableFont(false));
     QCoreApplication::setApplicationName("LuckyCup");
 }
 

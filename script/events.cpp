@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
+#include "core/box_click.h"
 #include "core/hints.h"
 #include "core/new_game.h"
-#include "core/placement.h"
+#include "core/redo.h"
 #include "core/timer.h"
 #include "core/turn.h"
 #include "core/two_players.h"

@@ -1,8 +1,7 @@
 #include "script/headless_table.h"
 
-#include <filesystem>
-
 #include "app/tick.h"
+#include "core/program_folder.h"
 #include "store/top_score_files.h"
 #include "table/main_window.h"
 
@@ -14,10 +13,8 @@ HeadlessTable::HeadlessTable(const GameSettings& settings, const std::string& fo
 }
 
 void HeadlessTable::UseFolder(const std::string& folder) {
-    constexpr auto separator = static_cast<char>(std::filesystem::path::preferred_separator);
-    game.session.AppPath = folder;
-    if (!folder.ends_with(separator)) game.session.AppPath += separator;
-    scores.Keep(std::make_unique<TopScoreFiles>(game.session.AppPath));
+    game.session.AppPath = AsFolder(folder);
+    scores.Keep(std::make_unique<TopScoreFiles>(ScoresFolder(game.session.AppPath)));
 }
 
 void HeadlessTable::Load() { Form_Load(game); }

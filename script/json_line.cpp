@@ -1,5 +1,7 @@
 #include "script/json_line.h"
 
+#include "core/overloaded.h"
+#include "core/setting_fields.h"
 #include "core/timer.h"
 #include "script/json_writer.h"
 
@@ -92,21 +94,10 @@ void WriteBoard(JsonWriter& json, const GameSession& session) {
 }
 
 void WriteSettings(JsonWriter& json, const GameSettings& settings) {
-    json.Member("NumberOfDice", settings.NumberOfDice);
-    json.Member("NumberOfPlayers", settings.NumberOfPlayers);
-    json.Member("NumberOfColumns", settings.NumberOfColumns);
-    json.Member("Player1", settings.Player1);
-    json.Member("Player2", settings.Player2);
-    json.Member("SoundEnabled", settings.SoundEnabled);
-    json.Member("hintAllways", settings.hintAllways);
-    json.Member("ShowDialog", settings.ShowDialog);
-    json.Member("ShowSplash", settings.ShowSplash);
-    json.Member("ShowStatusBar", settings.ShowStatusBar);
-    json.Member("ConfirmOnExit", settings.ConfirmOnExit);
-    json.Member("ConfirmQuitGame", settings.ConfirmQuitGame);
-    json.Member("BGMusicEnabled", settings.BGMusicEnabled);
-    json.Member("BGMusicVolume", settings.BGMusicVolume);
-    json.Member("ShowGridLines", settings.ShowGridLines);
+    for (const SettingField& field : settingFields)
+        std::visit(Overloaded{[&](const NumberSetting& number) { json.Member(field.name, settings.*number.field); },
+                              [&](auto member) { json.Member(field.name, settings.*member); }},
+                   field.kind);
 }
 
 void WriteDice(JsonWriter& json, const Game& game) {

@@ -1,27 +1,15 @@
 #include "sound/background_music.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <limits>
-
+#include "core/leading_number.h"
 #include "core/music.h"
 #include "core/program_folder.h"
 #include "core/show.h"
+#include "core/timing.h"
 
 namespace {
-
-std::string MusicFile(const Game& game, const char* name) { return ProgramFile(game.session, "BGMusic", name); }
-
-// The leading decimal number of the text, halves rounded to even; 0 when there is none.
-int LeadingNumber(const std::string& text) {
-    double number = 0;
-    const char* first = text.data() + std::min(text.find_first_not_of(' '), text.size());
-    std::from_chars(first, text.data() + text.size(), number, std::chars_format::fixed);
-    number = std::nearbyint(number);
-    return std::abs(number) <= std::numeric_limits<int>::max() ? static_cast<int>(number) : 0;
+std::string MusicFile(const Game& game, const char* name) {
+    return ProgramFile(game.session.AppPath, {"BGMusic", name});
 }
-
 }  // namespace
 
 void OpenMusic(Game& game, const std::string& path) { game.media.Send("open " + path + " type MPEGVideo alias myMP3"); }

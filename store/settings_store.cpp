@@ -2,39 +2,35 @@
 
 #include <QFileInfo>
 #include <QStorageInfo>
-#include <algorithm>
-#include <charconv>
+#include <cctype>
 #include <cmath>
-#include <initializer_list>
+
+#include "core/leading_number.h"
+#include "core/overloaded.h"
+#include "core/setting_fields.h"
 
 namespace {
 
-constexpr int loudest = 1000;
-
-// The decimal number that the text begins with, rounded with ties to even; 0 when it begins with no digit.
-double LeadingNumber(const std::string& text) {
-    if (text.empty() || text.front() < '0' || text.front() > '9') return 0;
-    double number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    return std::nearbyint(number);
-}
-
-void ReadCount(const QSettings& key, const char* name, std::initializer_list<int> allowed, int& count) {
-    const double number = LeadingNumber(RegGetString(key, name, ""));
-    const auto* found = std::find(allowed.begin(), allowed.end(), number);
-    if (found != allowed.end()) count = *found;
-}
-
-void ReadVolume(const QSettings& key, const char* name, int& volume) {
+// The number that a stored text stands for; -1 when it is none.
+int StoredNumber(const std::string& text, const NumberSetting& setting) {
+    if (setting.readFromStart) {
+        const bool begins = !text.empty() && std::isdigit(static_cast<unsigned char>(text.front()));
+        return begins ? LeadingNumber(text) : -1;
+    }
     bool whole = false;
-    const double number = std::nearbyint(QString::fromStdString(RegGetString(key, name, "")).toDouble(&whole));
-    if (whole && number >= 0 && number <= loudest) volume = static_cast<int>(number);
+    const double number = std::nearbyint(QString::fromStdString(text).toDouble(&whole));
+    return whole && setting.low <= number && number <= setting.high ? static_cast<int>(number) : -1;
 }
 
-void ReadTruth(const QSettings& key, const char* name, bool& truth) {
-    const QString text = QString::fromStdString(RegGetString(key, name, ""));
-    if (text.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0) truth = true;
-    if (text.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0) truth = false;
+void Read(const std::string& text, const NumberSetting& setting, GameSettings& settings) {
+    const int number = StoredNumber(text, setting);
+    if (setting.Allows(number)) settings.*setting.field = number;
+}
+
+void Read(const std::string& text, bool GameSettings::*truth, GameSettings& settings) {
+    const QString stored = QString::fromStdString(text);
+    if (stored.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0) settings.*truth = true;
+    if (stored.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0) settings.*truth = false;
 }
 
 // On a full disk QSettings of Qt 6.4 puts an empty file in the place of the one that it could not write.
@@ -46,66 +42,51 @@ bool DiskHasRoom(const QSettings& key, const GameSettings& settings) {
     return !disk.isValid() || disk.bytesAvailable() >= static_cast<qint64>(needed);
 }
 
-void WriteNumber(QSettings& key, const char* name, int number) { RegSetString(key, name, std::to_string(number)); }
-
-void WriteTruth(QSettings& key, const char* name, bool truth) { RegSetString(key, name, truth ? "True" : "False"); }
+std::string Stored(const NumberSetting& setting, const GameSettings& settings) {
+    return std::to_string(settings.*setting.field);
+}
+std::string Stored(bool GameSettings::*truth, const GameSettings& settings) {
+    return settings.*truth ? "True" : "False";
+}
+std::string Stored(std::string GameSettings::*name, const GameSettings& settings) { return settings.*name; }
 
 }  // namespace
 
-std::string RegGetString(const QSettings& key, const char* name, const std::string& otherwise) {
-    const QVariant value = key.value(QLatin1String(name));
+std::string RegGetString(const QSettings& key, std::string_view name, const std::string& otherwise) {
+    const QVariant value = key.value(QLatin1String(name.data(), static_cast<qsizetype>(name.size())));
     if (value.typeId() != QMetaType::QString) return otherwise;
     const std::string text = value.toString().toStdString();
     return text.substr(0, text.find('\0'));
 }
 
-void RegSetString(QSettings& key, const char* name, const std::string& text) {
-    key.setValue(QLatin1String(name), QString::fromStdString(text));
+void RegSetString(QSettings& key, std::string_view name, const std::string& text) {
+    key.setValue(QLatin1String(name.data(), static_cast<qsizetype>(name.size())), QString::fromStdString(text));
 }
 
-RegistrySettings::RegistrySettings() : key("LuckyCup", "LuckyCup2.2") {
-    key.setFallbacksEnabled(false);  // what other keys and the system's own store hold is not the player's choice
+RegistrySettings::RegistrySettings() : key_("LuckyCup", "LuckyCup2.2") {
+    key_.setFallbacksEnabled(false);  // what other keys and the system's own store hold is not the player's choice
 }
 
 GameSettings RegistrySettings::LoadSettings() {
     GameSettings settings;
-    if (RegGetString(key, "NumberOfDice", "").empty()) return settings;
+    if (RegGetString(key_, "NumberOfDice", "").empty()) return settings;
 
-    ReadCount(key, "NumberOfDice", {4, 5}, settings.NumberOfDice);
-    ReadTruth(key, "ShowDialog", settings.ShowDialog);
-    ReadTruth(key, "ShowSplash", settings.ShowSplash);
-    ReadTruth(key, "ShowStatusBar", settings.ShowStatusBar);
-    ReadTruth(key, "ConfirmOnExit", settings.ConfirmOnExit);
-    ReadTruth(key, "ConfirmQuitGame", settings.ConfirmQuitGame);
-    ReadTruth(key, "BGMusicEnabled", settings.BGMusicEnabled);
-    ReadVolume(key, "BGMusicVolume", settings.BGMusicVolume);
-    ReadCount(key, "NumberOfPlayers", {1, 2}, settings.NumberOfPlayers);
-    ReadCount(key, "NumberOfColumns", {1, 4}, settings.NumberOfColumns);
-    settings.Player1 = RegGetString(key, "Player1", settings.Player1);
-    settings.Player2 = RegGetString(key, "Player2", settings.Player2);
-    ReadTruth(key, "SoundEnabled", settings.SoundEnabled);
-    ReadTruth(key, "hintAllways", settings.hintAllways);
-    ReadTruth(key, "ShowGridLines", settings.ShowGridLines);
+    const auto readName = [&](const SettingField& field, std::string GameSettings::*name) {
+        settings.*name = RegGetString(key_, field.name, settings.*name);
+    };
+    for (const SettingField& field : settingFields)
+        std::visit(Overloaded{[&](std::string GameSettings::*name) { readName(field, name); },
+                              [&](auto kind) { Read(RegGetString(key_, field.name, ""), kind, settings); }},
+                   field.kind);
     return settings;
 }
 
 void RegistrySettings::SaveSettings(const GameSettings& settings) {
-    if (!DiskHasRoom(key, settings)) return;
+    if (!DiskHasRoom(key_, settings)) return;
 
-    WriteNumber(key, "NumberOfDice", settings.NumberOfDice);
-    WriteNumber(key, "NumberOfPlayers", settings.NumberOfPlayers);
-    WriteNumber(key, "NumberOfColumns", settings.NumberOfColumns);
-    RegSetString(key, "Player1", settings.Player1);
-    RegSetString(key, "Player2", settings.Player2);
-    WriteTruth(key, "SoundEnabled", settings.SoundEnabled);
-    WriteTruth(key, "hintAllways", settings.hintAllways);
-    WriteTruth(key, "ShowDialog", settings.ShowDialog);
-    WriteTruth(key, "ShowSplash", settings.ShowSplash);
-    WriteTruth(key, "ShowStatusBar", settings.ShowStatusBar);
-    WriteTruth(key, "ConfirmOnExit", settings.ConfirmOnExit);
-    WriteTruth(key, "ConfirmQuitGame", settings.ConfirmQuitGame);
-    WriteTruth(key, "BGMusicEnabled", settings.BGMusicEnabled);
-    WriteNumber(key, "BGMusicVolume", settings.BGMusicVolume);
-    WriteTruth(key, "ShowGridLines", settings.ShowGridLines);
-    key.sync();
+    for (const SettingField& field : settingFields) {
+        const std::string text = std::visit([&](auto kind) { return Stored(kind, settings); }, field.kind);
+        RegSetString(key_, field.name, text);
+    }
+    key_.sync();
 }

@@ -2,12 +2,13 @@
 
 #include <QSettings>
 #include <string>
+#include <string_view>
 
 #include "core/ports/settings_store.h"
 
 // A value of the key, up to its first NUL. otherwise when it is missing or is no text. Texts are UTF-8.
-std::string RegGetString(const QSettings& key, const char* name, const std::string& otherwise);
-void RegSetString(QSettings& key, const char* name, const std::string& text);
+std::string RegGetString(const QSettings& key, std::string_view name, const std::string& otherwise);
+void RegSetString(QSettings& key, std::string_view name, const std::string& text);
 
 // The user's settings: fifteen named texts. A store that cannot be read counts as empty, and one that cannot be
 // written stays as it is; neither is told.
@@ -21,5 +22,5 @@ public:
     void SaveSettings(const GameSettings& settings) override;
 
 private:
-    QSettings key;
+    QSettings key_;
 };

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "core/program_folder.h"
 #include "store/windows_1252.h"
 
 namespace fs = std::filesystem;
@@ -187,7 +188,7 @@ void ReplaceTable(const QString& path, const QByteArray& bytes) {
 }  // namespace
 
 QString TopScoreFiles::PathOf(int number) const {
-    return appPath + "scores" + QDir::separator() + "scores" + QString::number(number) + ".dat";
+    return QString::fromStdString(ProgramFile(folder_, {"scores" + std::to_string(number) + ".dat"}));
 }
 
 int TopScoreFiles::Record(int number, const ScoreRecord& record) {
@@ -207,13 +208,13 @@ bool TopScoreFiles::TopScoreFileExists(int number) {
     return fs::is_regular_file(NativePath(PathOf(number)), error);
 }
 
-std::array<ScoreRecord, scoreRecords> TopScoreFiles::LoadTopScores(int number) {
+ScoreTable TopScoreFiles::LoadTopScores(int number) {
     const QString path = PathOf(number);
     if (!TableStands(path)) Fail(fileNotFound, path);
 
     const QByteArray file = ReadTable(path, QIODevice::ReadOnly, trailerAt);
-    std::array<ScoreRecord, scoreRecords> records;
-    for (int i = 0; i < scoreRecords; ++i) records.at(static_cast<std::size_t>(i)) = FromSlot(SlotAt(file, i + 1));
+    ScoreTable records;
+    for (int i = 0; i < scoreRecords; ++i) records[static_cast<std::size_t>(i)] = FromSlot(SlotAt(file, i + 1));
     return records;
 }
 

@@ -5,24 +5,24 @@
 
 #include "core/ports/top_scores.h"
 
-// The files scores/scores1.dat to scores/scores4.dat in the program's folder. The folder scores must exist. A file is
+// The files scores1.dat to scores4.dat in a folder, which must exist. A file is
 // replaced in one step, so at any instant it holds the old or the new table. One that cannot be opened for reading and
 // writing is left alone, though its folder would let it be replaced.
 //
 // Only a table that is missing from its folder is fileNotFound; other failures have the number of their own kind.
 class TopScoreFiles final : public TopScores {
 public:
-    // folder: the program's, UTF-8, ending in the platform's separator.
-    explicit TopScoreFiles(const std::string& folder) : appPath(QString::fromStdString(folder)) {}
+    // folder: UTF-8, ending in the platform's separator.
+    explicit TopScoreFiles(const std::string& folder) : folder_(folder) {}
 
     // Creates a missing file. In a file that something else made longer than twenty records the place can lie past 20.
     int Record(int number, const ScoreRecord& record) override;
     bool TopScoreFileExists(int number) override;
-    std::array<ScoreRecord, scoreRecords> LoadTopScores(int number) override;
+    ScoreTable LoadTopScores(int number) override;
     void DeleteTopScores(int number) override;
 
 private:
     [[nodiscard]] QString PathOf(int number) const;
 
-    QString appPath;
+    std::string folder_;
 };

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/show.h"
+#include "core/timing.h"
 
 namespace {
 

@@ -1,9 +1,11 @@
 #include "table/commands.h"
 
+#include "core/effects.h"
 #include "core/hints.h"
 #include "core/links.h"
 #include "core/music.h"
 #include "core/show.h"
+#include "core/timing.h"
 
 void mnuHintsByRequest2_Click(Game& game) {
     game.session.HintsOn = false;

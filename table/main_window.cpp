@@ -3,6 +3,7 @@
 #include "core/hints.h"
 #include "core/music.h"
 #include "core/show.h"
+#include "core/timing.h"
 #include "table/set_controls.h"
 
 void Form_Load(Game& game) {

@@ -3,7 +3,9 @@
 #include <cstdlib>
 #include <utility>
 
+#include "core/effects.h"
 #include "core/show.h"
+#include "core/timing.h"
 
 namespace {
 

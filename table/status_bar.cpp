@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/show.h"
+#include "core/timing.h"
 
 namespace {
 

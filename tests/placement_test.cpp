@@ -1,7 +1,6 @@
-#include "core/placement.h"
-
 #include <set>
 
+#include "core/box_click.h"
 #include "core/turn.h"
 #include "table/main_window.h"
 #include "tests/turn_steps.h"

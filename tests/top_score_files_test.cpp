@@ -74,7 +74,7 @@ protected:
 
     // In memory where there is such a folder: flushing hundreds of tables to a busy disk takes its time.
     QTemporaryDir folder{(QFileInfo("/dev/shm").isWritable() ? "/dev/shm" : QDir::tempPath()) + "/scores-XXXXXX"};
-    TopScoreFiles files{(folder.path() + '/').toStdString()};
+    TopScoreFiles files{(folder.path() + "/scores/").toStdString()};
 };
 
 TEST_F(TopScoreFilesTest, FirstRecordLaysTheWholeTable) {

@@ -88,7 +88,7 @@ struct WindowTable {
     HeadlessEffects effects{log};
     HeadlessMedia media{log};
     QtDialogs dialogs{window, gate, art};
-    TopScoreFiles scores{folder.path().toStdString() + '/'};
+    TopScoreFiles scores{folder.path().toStdString() + "/scores/"};
     LoggingShell shell{log};
     HeadlessStore store{log};
     TableParts parts;
@@ -260,7 +260,7 @@ TEST(Hover, LightsTheRowOfAnEnabledButton) {
         QCoreApplication::processEvents();
     };
     const auto lit = [&](int row) {
-        return t.At("lblOption", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
+        return t.At("shpOptions", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
     };
     move("cmdRand", 4);
     EXPECT_FALSE(lit(4));
@@ -290,23 +290,23 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
     });
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
-        QTest::qWait(20);
+        QTest::qWait(40);
         EXPECT_EQ(ticks, 0);
     });
-    QTest::qWait(20);
+    QTest::qWait(40);
     EXPECT_EQ(ticks, 1);
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
         const EventGate::Open modal(gate);
-        QTest::qWait(20);
+        QTest::qWait(40);
         EXPECT_EQ(ticks, 2);
     });
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
-        QTest::qWait(20);
+        QTest::qWait(40);
         timers.Stop(Timer::tmrCounter);
     });
-    QTest::qWait(20);
+    QTest::qWait(40);
     EXPECT_EQ(ticks, 2);
 }
 

@@ -32,6 +32,9 @@ void BringToFront(QWidget& window) {
     window.activateWindow();
 }
 
-QString FittedText(const std::string& text, const QFont& font, int width) {
-    return QFontMetrics(font).elidedText(QString::fromStdString(text), Qt::ElideMiddle, width);
+QString FittedText(const QString& text, const QString& tail, const QFont& font, int width) {
+    const QFontMetrics metrics(font);
+    if (!text.endsWith(tail)) return metrics.elidedText(text, Qt::ElideRight, width);
+    const int room = width - metrics.horizontalAdvance(tail);
+    return metrics.elidedText(text.chopped(tail.size()), Qt::ElideRight, room) + tail;
 }

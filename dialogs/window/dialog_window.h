@@ -24,5 +24,5 @@ public:
 // Opens the window, or brings the open one to the front.
 void BringToFront(QWidget& window);
 
-// The text, its middle left out where it is too wide for the width in pixels.
-QString FittedText(const std::string& text, const QFont& font, int width);
+// The text, cut before its tail where it is too wide for the width in pixels.
+QString FittedText(const QString& text, const QString& tail, const QFont& font, int width);

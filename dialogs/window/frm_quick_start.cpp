@@ -78,5 +78,5 @@ void frmQuickStart::Print() {
         whole.setPosition(chosen.selectionStart(), QTextCursor::KeepAnchor);
         whole.removeSelectedText();
     }
-    ::Print(*this, paper, "Quick Start");
+    ::Print(*this, art_, paper, "Quick Start");
 }

@@ -51,7 +51,7 @@ std::unique_ptr<HelpWindow> OpenHelp(const QString& programFolder, const QString
 }
 
 HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& art)
-    : text_(new QTextBrowser), contents_(new QTreeWidget), find_(new QLineEdit) {
+    : art_(art), text_(new QTextBrowser), contents_(new QTreeWidget), find_(new QLineEdit) {
     setObjectName("Help");
     setWindowTitle(title);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -70,7 +70,7 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
     both->setStretchFactor(1, 1);
     both->setChildrenCollapsible(false);
     auto* all = new QVBoxLayout(this);
-    all->addLayout(MakeBar(art));
+    all->addLayout(MakeBar());
     all->addWidget(both, 1);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, find_, [this] {
         find_->setFocus();
@@ -81,9 +81,9 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
     text_->setFocus();
 }
 
-QLayout* HelpWindow::MakeBar(Art& art) {
+QLayout* HelpWindow::MakeBar() {
     auto* bar = new QHBoxLayout;
-    const QCursor hand = HandPointer(art, devicePixelRatioF());
+    const QCursor hand = HandPointer(art_, devicePixelRatioF());
     const auto add = [&](const char* name, const char* caption, const char* tip, QKeySequence::StandardKey key,
                          auto click) {
         auto* button = new QPushButton(caption);
@@ -159,4 +159,4 @@ void HelpWindow::Resize(int pixels) {
     text_->setFont(TableFont(false, letters_));
 }
 
-void HelpWindow::Print() { ::Print(*this, *text_->document(), title); }
+void HelpWindow::Print() { ::Print(*this, art_, *text_->document(), title); }

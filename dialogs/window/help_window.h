@@ -13,12 +13,13 @@ public:
     HelpWindow(const QString& programFolder, const QString& html, Art& art);
 
 private:
-    QLayout* MakeBar(Art& art);
+    QLayout* MakeBar();
     void AddContents();
     void Find();
     void Resize(int pixels);
     void Print();
 
+    Art& art_;
     QTextBrowser* text_;
     QTreeWidget* contents_;
     QLineEdit* find_;

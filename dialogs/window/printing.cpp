@@ -28,16 +28,17 @@ bool PrintOn(QPrinter& printer, const QTextDocument& document) {
     return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
 }
 
-void Tell(QWidget& window, MessageIcon icon, const QString& text) {
-    ShowMessageBox(&window, {"Print", text.toStdString(), icon, MessageButtons::Ok});
+void Tell(QWidget& window, Art& art, MessageIcon icon, const QString& text) {
+    ShowMessageBox(&window, art, {"Print", text.toStdString(), icon, MessageButtons::Ok});
 }
 
 }  // namespace
 
-void Print(QWidget& window, const QTextDocument& document, const QString& title) {
+void Print(QWidget& window, Art& art, const QTextDocument& document, const QString& title) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(title);
     if (QPrinterInfo::defaultPrinter().isNull() && QPrintDialog(&printer, &window).exec() != QDialog::Accepted)
-        return Tell(window, MessageIcon::Information, "Nothing was printed.");
-    if (!PrintOn(printer, document)) Tell(window, MessageIcon::Warning, QString("%1 could not be printed.").arg(title));
+        return Tell(window, art, MessageIcon::Information, "Nothing was printed.");
+    if (!PrintOn(printer, document))
+        Tell(window, art, MessageIcon::Warning, QString("%1 could not be printed.").arg(title));
 }

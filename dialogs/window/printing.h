@@ -3,7 +3,9 @@
 #include <QTextDocument>
 #include <QWidget>
 
+#include "kit/art.h"
+
 // Prints at once on the default printer. Where there is none the print dialog opens, which can also make a PDF file.
 // When nothing was printed, a message over the window says so; a file that could not be written whole is left as it
 // was. title: the name of what is printed.
-void Print(QWidget& window, const QTextDocument& document, const QString& title);
+void Print(QWidget& window, Art& art, const QTextDocument& document, const QString& title);

@@ -5,6 +5,7 @@
 
 namespace {
 constexpr int titleFont = 21;
+constexpr QColor titleInk(0x1D, 0x3A, 0x7A);
 
 QLabel* AddLabel(QWidget& window, const char* name, const char* text, const Place& place, Qt::Alignment alignment) {
     auto* label = new QLabel(text, &window);
@@ -20,7 +21,7 @@ void AddTitle(QWidget& window, const Place& place, Qt::Alignment alignment) {
     title->setAccessibleName("Lucky Cup");
     title->setFont(TableFont(true, titleFont));
     QPalette ink = title->palette();
-    ink.setColor(QPalette::WindowText, colour::satinEdge);
+    ink.setColor(QPalette::WindowText, titleInk);
     title->setPalette(ink);
 }
 

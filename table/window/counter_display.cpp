@@ -1,6 +1,8 @@
 #include "table/window/counter_display.h"
 
-static QString ArtOf(char glyph) { return glyph == '-' ? QString("digit_minus") : QString("digit_") + glyph; }
+namespace {
+QString ArtOf(char glyph) { return glyph == '-' ? QString("digit_minus") : QString("digit_") + glyph; }
+}  // namespace
 
 CounterDisplay::CounterDisplay(QWidget* parent, Art& art, const GlyphColumns& picture)
     : QWidget(parent), art_(art), picture_(picture) {

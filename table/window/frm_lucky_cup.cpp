@@ -5,13 +5,14 @@
 #include <QLayout>
 #include <QScreen>
 
+#include "core/box_click.h"
 #include "core/hints.h"
-#include "core/placement.h"
 #include "core/turn.h"
 #include "core/two_players.h"
 #include "kit/look.h"
 #include "kit/pointers.h"
 #include "table/main_window.h"
+#include "table/window/tool_tips.h"
 
 namespace {
 constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -51,6 +52,7 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
       menuBar_(new MenuBar(this, art_, Commands())),
       statusBar_(new StatusBarWidget(table_)) {
     setObjectName("frmLuckyCup");
+    score_->setToolTip(counterTip);
     setMenuBar(menuBar_);
     setCentralWidget(table_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);

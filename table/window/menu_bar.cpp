@@ -4,6 +4,7 @@
 #include <span>
 
 #include "core/new_game.h"
+#include "core/redo.h"
 #include "core/undo.h"
 #include "table/commands.h"
 
@@ -86,9 +87,10 @@ void AddEntry(QMenu& menu, const MenuEntry& entry, const CommandRunner& runner) 
     QAction* action = entry.kind == Kind::Separator ? menu.addSeparator() : menu.addAction(entry.caption);
     action->setObjectName(entry.name);
     action->setShortcut(QKeySequence(entry.shortcut));
-    if (entry.kind == Kind::Exit) QObject::connect(action, &QAction::triggered, runner.exit);
+    if (entry.kind == Kind::Exit) QObject::connect(action, &QAction::triggered, action, runner.exit);
     if (entry.kind == Kind::Command)
-        QObject::connect(action, &QAction::triggered, [runner, command = entry.command] { runner.run(command); });
+        QObject::connect(action, &QAction::triggered, action,
+                         [runner, command = entry.command] { runner.run(command); });
 }
 
 // The pictures are drawn when the menu is opened for the first time.
@@ -108,7 +110,7 @@ void AddMenu(MenuBar& bar, const char* name, const char* caption, std::span<cons
     QMenu* menu = bar.addMenu(caption);
     menu->setObjectName(name);
     for (const MenuEntry& entry : entries) AddEntry(*menu, entry, runner);
-    QObject::connect(menu, &QMenu::aboutToShow, [menu, entries, &art] { AddPictures(*menu, entries, art); });
+    QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, entries, &art] { AddPictures(*menu, entries, art); });
 }
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "core/new_game.h"
+#include "core/redo.h"
 #include "core/undo.h"
 #include "table/commands.h"
 #include "table/window/layout.h"
