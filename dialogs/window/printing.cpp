@@ -4,6 +4,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QSaveFile>
 
 #include "kit/message_box.h"
@@ -28,6 +29,13 @@ bool PrintOn(QPrinter& printer, const QTextDocument& document) {
     return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
 }
 
+bool AskWhere(QWidget& window, QPrinter& printer) {
+    QPrintDialog dialog(&printer, &window);
+    dialog.setFont(window.font());
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) button->setIcon({});
+    return dialog.exec() == QDialog::Accepted;
+}
+
 void Tell(QWidget& window, Art& art, MessageIcon icon, const QString& text) {
     ShowMessageBox(&window, art, {"Print", text.toStdString(), icon, MessageButtons::Ok});
 }
@@ -37,7 +45,7 @@ void Tell(QWidget& window, Art& art, MessageIcon icon, const QString& text) {
 void Print(QWidget& window, Art& art, const QTextDocument& document, const QString& title) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(title);
-    if (QPrinterInfo::defaultPrinter().isNull() && QPrintDialog(&printer, &window).exec() != QDialog::Accepted)
+    if (QPrinterInfo::defaultPrinter().isNull() && !AskWhere(window, printer))
         return Tell(window, art, MessageIcon::Information, "Nothing was printed.");
     if (!PrintOn(printer, document))
         Tell(window, art, MessageIcon::Warning, QString("%1 could not be printed.").arg(title));
