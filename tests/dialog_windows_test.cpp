@@ -321,11 +321,22 @@ TEST(Guide, StandsBesideTheTable) {
     EXPECT_FALSE(Shown("frmQuickStart"));
 }
 
-QString PdfText(const QString& file) {
+QString ReadPdf(const QStringList& arguments) {
     QProcess reader;
-    reader.start("pdftotext", {file, "-"});
+    reader.start("pdftotext", arguments + QStringList("-"));
     reader.waitForFinished();
-    return Letters(QString::fromUtf8(reader.readAllStandardOutput()).remove(QRegularExpression("\\n\\s*\\d+\\s*\\f")));
+    return QString::fromUtf8(reader.readAllStandardOutput());
+}
+
+QString PdfText(const QString& file) {
+    return Letters(ReadPdf({file}).remove(QRegularExpression("\\n\\s*\\d+\\s*\\f")));  // and no page numbers
+}
+
+// In points.
+double PrintedHeight(const QString& file, const QString& word) {
+    const QRegularExpression place("yMin=\"([\\d.]+)\" xMax=\"[\\d.]+\" yMax=\"([\\d.]+)\">" + word + '<');
+    const auto match = place.match(ReadPdf({"-bbox", file}));
+    return match.captured(2).toDouble() - match.captured(1).toDouble();
 }
 
 TEST(Guide, PrintsToAFileWhereThereIsNoPrinter) {
@@ -350,6 +361,7 @@ TEST(Guide, PrintsToAFileWhereThereIsNoPrinter) {
     };
     EXPECT_EQ(print(file), "QPrintDialog ");
     EXPECT_EQ(PdfText(file), Letters(view.toPlainText()));
+    EXPECT_NEAR(PrintedHeight(file, "Roll"), 12, 3);
     EXPECT_EQ(print(""), "QPrintDialog QMessageBox ") << "cancelled";
     view.find("Free Column");
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);

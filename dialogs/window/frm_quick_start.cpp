@@ -16,7 +16,6 @@ constexpr QColor ground(0, 51, 102), light(0xE8, 0xEE, 0xF8), gold(0xFF, 0xE0, 0
 constexpr const char* onGround = "body{color:#e8eef8} h1,h2,h3{color:#ffe08a} .term{color:#ffffff}";
 constexpr const char* onPaper = "body{color:#000000}";
 constexpr int textFont = 13;
-constexpr qreal paperRatio = 4;  // a printer draws finer than a screen
 
 QString Guide(const char* smile) {
     TakeGuide();
@@ -67,7 +66,7 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
 
 // What is selected, or else all of it, in dark on white.
 void frmQuickStart::Print() {
-    ArtDocument paper(art_, paperRatio, TableFont(false, textFont), onPaper, Guide("smile_dark"));
+    ArtDocument paper(art_, paperRatio, PaperFont(), onPaper, Guide("smile_dark"));
     const QTextCursor chosen = RichTextBox1_->textCursor();
     if (chosen.hasSelection()) {
         QTextCursor whole(&paper);

@@ -51,7 +51,7 @@ std::unique_ptr<HelpWindow> OpenHelp(const QString& programFolder, const QString
 }
 
 HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& art)
-    : art_(art), text_(new QTextBrowser), contents_(new QTreeWidget), find_(new QLineEdit) {
+    : art_(art), html_(html), text_(new QTextBrowser), contents_(new QTreeWidget), find_(new QLineEdit) {
     setObjectName("Help");
     setWindowTitle(title);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -159,4 +159,7 @@ void HelpWindow::Resize(int pixels) {
     text_->setFont(TableFont(false, letters_));
 }
 
-void HelpWindow::Print() { ::Print(*this, art_, *text_->document(), title); }
+void HelpWindow::Print() {
+    const ArtDocument paper(art_, paperRatio, PaperFont(), colours, html_);
+    ::Print(*this, art_, paper, title);
+}

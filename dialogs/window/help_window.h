@@ -20,6 +20,7 @@ private:
     void Print();
 
     Art& art_;
+    QString html_;
     QTextBrowser* text_;
     QTreeWidget* contents_;
     QLineEdit* find_;

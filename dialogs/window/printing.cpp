@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QSaveFile>
 
+#include "kit/controls.h"
 #include "kit/message_box.h"
 
 namespace {
@@ -41,6 +42,13 @@ void Tell(QWidget& window, Art& art, MessageIcon icon, const QString& text) {
 }
 
 }  // namespace
+
+QFont PaperFont() {
+    constexpr double letters = 10.5;  // points
+    QFont font = TableFont(false);
+    font.setPointSizeF(letters);
+    return font;
+}
 
 void Print(QWidget& window, Art& art, const QTextDocument& document, const QString& title) {
     QPrinter printer(QPrinter::HighResolution);
