@@ -134,7 +134,7 @@ void HelpWindow::AddContents() {
     const auto go = [this](QTreeWidgetItem* item) {
         text_->setSource(QUrl("#" + item->data(0, Qt::UserRole).toString()));
     };
-    if (QTreeWidgetItem* first = contents_->topLevelItem(0)) go(first);  // where Back can come to
+    text_->setSource(QUrl("#"));  // the top is a place that Back can come to
     connect(contents_, &QTreeWidget::itemClicked, this, go);
     connect(contents_, &QTreeWidget::itemActivated, this, go);
 }
