@@ -5,8 +5,12 @@
 #include "core/start.h"
 
 Program::Program(const std::string& programFolder, Art& pictures)
-    : art(pictures), scores(ScoresFolder(programFolder)), shell(programFolder, ScoresFolder(programFolder), pictures) {
+    : art(pictures),
+      sound(programFolder, clock),
+      scores(ScoresFolder(programFolder)),
+      shell(programFolder, ScoresFolder(programFolder), pictures) {
     game.session.AppPath = programFolder;
+    window.SetMenuStyle(menuStyle);
     dialogs.SetShowMainWindow([this] { ShowMainWindow(); });
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }

@@ -16,7 +16,7 @@ GAME_TITLE = "^Lucky Cup"
 TABLE_FIRST = "ShowDialog=False\nShowSplash=False\n"
 LOOKS = 16  # rows of the window that are looked at
 
-__all__ = ["EMPTY", "GAME", "Screen", "arguments", "game_place", "is_painted", "start_until_painted"]
+__all__ = ["EMPTY", "GAME", "GAME_TITLE", "Screen", "arguments", "game_place", "is_painted", "start_until_painted"]
 
 
 def arguments(description, **numbers):

@@ -1,11 +1,14 @@
 #include "dialogs/window/qt_dialogs.h"
 
+#include <QApplication>
+
 #include "core/game.h"
 #include "dialogs/welcome_form.h"
 #include "dialogs/window/frm_about.h"
 #include "dialogs/window/frm_end_game.h"
 #include "dialogs/window/frm_options.h"
 #include "dialogs/window/frm_quick_start.h"
+#include "dialogs/window/frm_scores2.h"
 #include "dialogs/window/frm_splash.h"
 #include "dialogs/window/frm_the_winer_is.h"
 #include "dialogs/window/frm_welcome.h"
@@ -17,7 +20,9 @@ QWidget& QtDialogs::Owner(const Game& game) const {
 
 Answer QtDialogs::ShowMessage(const Message& message) {
     const EventGate::Open open(gate_);
-    return ShowMessageBox(firstWindow_ ? firstWindow_ : &mainWindow_, art_, message);
+    QWidget* const window = firstWindow_ ? firstWindow_ : &mainWindow_;
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return ShowMessageBox(dialog ? dialog : window, art_, message);
 }
 
 void QtDialogs::frmWelcome(Game& game) {
@@ -36,6 +41,12 @@ void QtDialogs::frmEndGame(Game& game) {
 
 void QtDialogs::frmTheWinerIs(Game& game) {
     ::frmTheWinerIs dialog(Owner(game), game, art_);
+    const EventGate::Open open(gate_);
+    dialog.exec();
+}
+
+void QtDialogs::frmScores2(Game& game) {
+    ::frmScores2 dialog(Owner(game), game, art_);
     const EventGate::Open open(gate_);
     dialog.exec();
 }

@@ -21,7 +21,7 @@ public:
     void frmWelcome(Game& game) override;
     void frmEndGame(Game& game) override;
     void frmTheWinerIs(Game& game) override;
-    void frmScores2(Game&) override {}  // opens nothing yet
+    void frmScores2(Game& game) override;
     void frmOptions(Game& game) override;
     void frmQuickStart(Game& game) override;
     void frmAbout(Game& game) override;
