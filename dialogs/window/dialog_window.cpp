@@ -17,7 +17,7 @@ void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share
     const QRect outer = window.frameGeometry();
     const QSize frame = size() + outer.size() - window.size();
     move(outer.left() + (outer.width() - frame.width()) / 2,
-         outer.top() + qRound((outer.height() - frame.height()) * share) + Pixels(twipsBelow));
+         outer.top() + static_cast<int>((outer.height() - frame.height()) * share) + Pixels(twipsBelow));
 }
 
 void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {

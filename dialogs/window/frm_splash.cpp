@@ -28,6 +28,7 @@ frmSplash::frmSplash(Art& art, std::function<void()> end)
     setFixedSize(pictureSize);
     move(PlaceOn(screen()->geometry()));
     tmrUnload_.setSingleShot(true);
+    tmrUnload_.setTimerType(Qt::PreciseTimer);  // a coarse one may come too early
     tmrUnload_.setInterval(shownFor);
     tmrUnload_.callOnTimeout(this, &frmSplash::End);
 }
