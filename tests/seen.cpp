@@ -139,7 +139,7 @@ QJsonObject Seen(const WindowTable& t) {
                      {"panelVisible", Array(1, 5, [&](int k) { return t.Shown("StatusBar1", k); })},
                      {"statusBar", t.Shown("StatusBar1")},
                      {"height", t.window.centralWidget()->height()},
-                     {"title", t.window.windowTitle()},
+                     {"title", t.window.windowTitle().replace("[*][*]", "[*]")},
                      {"minimized", t.window.isMinimized()},
                      {"closed", t.window.isHidden()},
                      {"counter", t.At("picScore").accessibleDescription()}};
