@@ -113,7 +113,7 @@ void ClearTable(Game& game) {
     ResetDice(game);
     session.BonusGiven = {};
     session.SecondPlayerOnMove = {};
-    PlayEffect(game, "newGame");
+    PlayEffect(game, "newGame");  // the window stands whenever its command can be run, be it minimised
     ClearColumnTotals(game);
     for (int panel : {2, 3, 4}) SetPanelText(game, panel, "");
     SetLamps(game, 0);

@@ -66,7 +66,8 @@ void SetTotalOrEmpty(Game& game, ScoreColumn column, TotalRow row, int value) {
 
 void TakeOutOfUpperSection(Game& game, ScoreColumn column, int points) {
     if (int* count = UpperCount(game.session, column)) --*count;
-    SetTotalOrEmpty(game, column, TotalRow::SubTotal, TotalValue(game, column, TotalRow::SubTotal) - points);
+    SetTotalOrEmpty(game, column, TotalRow::SubTotal,
+                    std::max(TotalValue(game, column, TotalRow::SubTotal) - points, 0));
     if (!game.session.BonusGiven[column]) return;
     AddToTotal(game, column, TotalRow::SubTotal, -bonusPoints);
     AddToTotal(game, column, TotalRow::ColumnTotal, -bonusPoints);

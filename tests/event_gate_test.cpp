@@ -16,23 +16,23 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
     });
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
-        QTest::qWait(20);
+        QTest::qWait(40);
         EXPECT_EQ(ticks, 0);
     });
-    QTest::qWait(20);
+    QTest::qWait(40);
     EXPECT_EQ(ticks, 1);
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
         const EventGate::Open modal(gate);
-        QTest::qWait(20);
+        QTest::qWait(40);
         EXPECT_EQ(ticks, 2);
     });
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
-        QTest::qWait(20);
+        QTest::qWait(40);
         timers.Stop(Timer::tmrCounter);
     });
-    QTest::qWait(20);
+    QTest::qWait(40);
     EXPECT_EQ(ticks, 2);
 }
 

@@ -66,7 +66,7 @@ int Lamps(const WindowTable& t) {
 }
 
 bool Highlighted(const WindowTable& t, int row) {
-    return t.At("lblOption", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
+    return t.At("shpOptions", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
 }
 
 // A number for one of the two, or a text that no setting has.

@@ -18,7 +18,7 @@ TEST(Keys, BelongToTheTable) {
 TEST(Hover, LightsTheRowOfAnEnabledButton) {
     WindowTable t(VariantOf(5));
     const auto lit = [&](int row) {
-        return t.At("lblOption", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
+        return t.At("shpOptions", row).grab().toImage().pixelColor(3, 7).lightness() > 200;
     };
     t.MoveOnto("cmdRand", 4);
     EXPECT_FALSE(lit(4));

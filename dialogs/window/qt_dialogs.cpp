@@ -12,7 +12,7 @@ QWidget& QtDialogs::Owner(const Game& game) const {
 
 Answer QtDialogs::ShowMessage(const Message& message) {
     const EventGate::Open open(gate_);
-    return ShowMessageBox(firstWindow_ ? firstWindow_ : &mainWindow_, message);
+    return ShowMessageBox(firstWindow_ ? firstWindow_ : &mainWindow_, art_, message);
 }
 
 void QtDialogs::frmEndGame(Game& game) {
