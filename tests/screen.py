@@ -55,12 +55,14 @@ class Screen:
         self._buffer.close()
         self._folder.cleanup()
 
-    def start(self, *command, stderr=None):
-        """Starts a program as a new user would see it, but for the cache, which holds the list of fonts."""
-        home = pathlib.Path(tempfile.mkdtemp(dir=self._folder.name))
+    def start(self, *command, stderr=None, home_of=None):
+        """Starts a program as a new user would see it, but for the cache, which holds the list of fonts; or as the
+        user of an earlier one."""
+        home = home_of.home if home_of else pathlib.Path(tempfile.mkdtemp(dir=self._folder.name))
         environment = {**self._environment, "HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"),
                        "XDG_CACHE_HOME": self._folder.name, "XDG_RUNTIME_DIR": str(home), "TMPDIR": str(home)}
         process = subprocess.Popen([*map(str, command)], env=environment, stdin=subprocess.DEVNULL, stderr=stderr)
+        process.home = home
         self._programs.append(process)
         return process
 

@@ -8,6 +8,7 @@
 
 #include "script/events.h"
 #include "tests/open_events.h"
+#include "tests/readable.h"
 
 // A table without a window, in a folder of its own, under the hands of a player. Its inputs are those of a table
 // script.

@@ -65,7 +65,9 @@ std::optional<QPoint> WindowTable::FreePoint(const QWidget& control) const {
 void WindowTable::Click(const QString& name, int i) {
     const QWidget& control = At(name, i);
     const QPoint middle = control.mapTo(&window, control.rect().center());
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, FreePoint(control).value_or(middle));
+    const QPoint point = FreePoint(control).value_or(middle);
+    Move(point);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, point);
 }
 
 void WindowTable::ClickEntry(const char* name) {
@@ -85,7 +87,7 @@ void WindowTable::ClickEntry(const char* name) {
 }
 
 void WindowTable::Move(const QPoint& point) {
-    QTest::mouseMove(window.windowHandle(), point);
+    QCursor::setPos(window.mapToGlobal(point));
     QCoreApplication::processEvents();
 }
 

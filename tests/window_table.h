@@ -14,6 +14,7 @@
 #include "sound/background_music.h"
 #include "table/table_parts.h"
 #include "table/window/frm_lucky_cup.h"
+#include "tests/readable.h"
 
 // The main window at one of the eight variants: bit 0 five dice, bit 1 two players, bit 2 one column.
 GameSettings VariantOf(int bits);

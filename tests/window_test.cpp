@@ -15,6 +15,40 @@ TEST(Keys, BelongToTheTable) {
     EXPECT_TRUE(t.window.isMinimized());
 }
 
+// A key that is held down repeats until it is let go.
+TEST(Keys, CountOnceHoweverLongTheyAreHeld) {
+    WindowTable t;
+    for (const bool again : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, {}, "\r", again);
+        QCoreApplication::sendEvent(&t.window, &press);
+    }
+    EXPECT_EQ(t.game.session.RollCount, 1);
+}
+
+TEST(Roll, IsPressedAndReleasedOnTheButton) {
+    WindowTable t;
+    const QPoint roll = *t.FreePoint(t.At("picRollDices"));
+    const auto press = [&] { QTest::mousePress(t.window.windowHandle(), Qt::LeftButton, {}, roll); };
+    const auto release = [&](QPoint at) { QTest::mouseRelease(t.window.windowHandle(), Qt::LeftButton, {}, at); };
+    press();
+    EXPECT_EQ(t.game.table.roll.picture, RollPicture::On);
+    EXPECT_EQ(t.game.session.RollCount, 0);
+    release(roll);
+    EXPECT_EQ(t.game.session.RollCount, 1);
+    press();
+    t.answer = [&](QWidget& modal) {  // cuts the press off
+        EXPECT_EQ(t.game.table.roll.picture, RollPicture::Up);
+        release(roll);
+        EXPECT_EQ(t.game.session.RollCount, 1);
+        modal.close();
+    };
+    t.Key(Qt::CTRL | Qt::Key_O);
+    release(roll);
+    EXPECT_EQ(t.game.session.RollCount, 1);
+    t.Click("picRollDices");
+    EXPECT_EQ(t.game.session.RollCount, 2);
+}
+
 TEST(Hover, LightsTheRowOfAnEnabledButton) {
     WindowTable t(VariantOf(5));
     const auto lit = [&](int row) {
