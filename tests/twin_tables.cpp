@@ -32,6 +32,12 @@ void Click(T t, const QString& name, int i = -1) {
     if (t.Shown(name, i)) t.Click(name, i);
 }
 
+// Through the menu or with the key of the toolbar, which switches whatever is on; neither when it is chosen already.
+void Choose(T t, const char* entry, const char* key = nullptr) {
+    if (!key) t.ClickEntry(entry);
+    if (key && t.Entry(entry).isVisible()) t.Click(key);
+}
+
 const Way ways[] = {
     {"roll", [](T t, Line) { Click(t, "picRollDices"); }},
     {"key enter", [](T t, Line) { t.Key(Qt::Key_Return); }},
@@ -54,10 +60,14 @@ const Way ways[] = {
     {"hint", [](T t, Line) { Click(t, "tbHint"); }},
     {"hints always", [](T t, Line) { t.ClickEntry("mnuHintsAllways2"); }},
     {"hints request", [](T t, Line) { t.ClickEntry("mnuHintsByRequest2"); }},
-    {"sounds on", [](T t, Line) { t.ClickEntry("mnuSoundsOn2"); }},
-    {"sounds off", [](T t, Line) { t.ClickEntry("mnuSoundsOff2"); }},
-    {"music on", [](T t, Line) { t.ClickEntry("mnuMusicOn2"); }},
-    {"music off", [](T t, Line) { t.ClickEntry("mnuMusicOff2"); }},
+    {"sounds on", [](T t, Line) { Choose(t, "mnuSoundsOn2"); }},
+    {"sounds on", [](T t, Line) { Choose(t, "mnuSoundsOn2", "tbSound"); }},
+    {"sounds off", [](T t, Line) { Choose(t, "mnuSoundsOff2"); }},
+    {"sounds off", [](T t, Line) { Choose(t, "mnuSoundsOff2", "tbSound"); }},
+    {"music on", [](T t, Line) { Choose(t, "mnuMusicOn2"); }},
+    {"music on", [](T t, Line) { Choose(t, "mnuMusicOn2", "tbBGmusic"); }},
+    {"music off", [](T t, Line) { Choose(t, "mnuMusicOff2"); }},
+    {"music off", [](T t, Line) { Choose(t, "mnuMusicOff2", "tbBGmusic"); }},
     {"options", [](T t, Line) { t.ClickEntry("mnuOptions"); }},
     {"options", [](T t, Line) { t.Key(Qt::CTRL | Qt::Key_O); }},
     {"minimize", [](T t, Line) { t.window.showMinimized(); }},
