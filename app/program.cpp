@@ -3,9 +3,11 @@
 #include "app/tick.h"
 #include "core/program_folder.h"
 
-Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(ScoresFolder(programFolder)) {
+Program::Program(const std::string& programFolder, Art& pictures)
+    : art(pictures), sound(programFolder, clock), scores(ScoresFolder(programFolder)) {
     game.session.AppPath = programFolder;
     game.settings = store.LoadSettings();
+    window.SetMenuStyle(menuStyle);
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }
 

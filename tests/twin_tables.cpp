@@ -86,16 +86,8 @@ const Way ways[] = {
     {"state", [](T, Line) {}},
 };
 
-// Until the window of the top scores opens: what its load and its close log is left out.
-std::string Joined(EventLog log) {
+std::string Joined(const EventLog& log) {
     std::string text;
-    for (auto shown = std::ranges::find(log, "dialog frmScores2"); shown != log.end();
-         shown = std::ranges::find(log, "dialog frmScores2")) {
-        auto first = shown;
-        while (first != log.begin() && std::prev(first)->starts_with("media")) --first;
-        const auto stop = std::ranges::find(first, shown, "media close myMP3");
-        log.erase(stop == shown ? first : stop + 1, shown + 1);
-    }
     for (const std::string& entry : log)
         if (!entry.starts_with("refresh") && entry != "minimize") text += entry + '\n';
     return text;

@@ -25,6 +25,7 @@ WindowTable::WindowTable(const GameSettings& settings, Ticks ticks)
     QDir(folder.path()).mkdir("scores");
     scores.Keep(std::make_unique<TopScoreFiles>(folder.path().toStdString() + "/scores/"));
     game.settings = settings;
+    window.SetMenuStyle(menuStyle);
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
     answerer_.callOnTimeout([this] { AnswerDialog(); });
     answerer_.start(2);

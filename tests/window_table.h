@@ -10,6 +10,7 @@
 
 #include "dialogs/window/qt_dialogs.h"
 #include "kit/qt_timers.h"
+#include "menus/menu_style.h"
 #include "script/headless_ports.h"
 #include "sound/background_music.h"
 #include "table/table_parts.h"
@@ -62,6 +63,7 @@ struct WindowTable {
     EventLog log;
     EventGate gate;
     Art art;
+    MenuStyle menuStyle{art};
     frmLuckyCup window{gate, art};
     QtTimers timers{gate};
     SilentTimers noTimers;
