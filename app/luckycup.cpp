@@ -24,6 +24,5 @@ int Main(QApplication& app) {
     }
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(ProgramFolder(), art);
-    program.ShowMainWindow();
-    return app.exec();
+    return program.Start() ? app.exec() : 0;
 }

@@ -2,12 +2,16 @@
 
 #include "app/tick.h"
 #include "core/program_folder.h"
+#include "core/start.h"
 
 Program::Program(const std::string& programFolder, Art& pictures)
-    : art(pictures), sound(programFolder, clock), scores(ScoresFolder(programFolder)) {
+    : art(pictures),
+      sound(programFolder, clock),
+      scores(ScoresFolder(programFolder)),
+      shell(programFolder, ScoresFolder(programFolder), pictures) {
     game.session.AppPath = programFolder;
-    game.settings = store.LoadSettings();
     window.SetMenuStyle(menuStyle);
+    dialogs.SetShowMainWindow([this] { ShowMainWindow(); });
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }
 
@@ -18,3 +22,5 @@ void Program::ShowMainWindow() {
     window.Load(game);
     window.show();
 }
+
+bool Program::Start() { return ::Start(game); }

@@ -1,6 +1,8 @@
 #include "sound/player/player.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QDir>
@@ -307,6 +309,18 @@ TEST(Player, EveryFileOfTheGameOpensAndHasItsLength) {
             const double seconds = piece ? piece->Length() / 1000.0 : frames / framesPerSecond;
             EXPECT_TRUE(seconds >= least && seconds <= most) << path << ' ' << seconds;
         }
+}
+
+TEST(SoundFiles, OnlyRegularFilesAreOpened) {
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("a.WAV").toStdString();
+    for (const auto& plant :
+         {+[](const char* at) { return mkfifo(at, 0600); }, +[](const char* at) { return mkdir(at, 0700); },
+          +[](const char* at) { return symlink("/dev/zero", at); }}) {
+        ASSERT_EQ(plant(path.c_str()), 0);
+        EXPECT_TRUE(LoadWave(path).empty() && !Mp3::Open(path));
+        ASSERT_EQ(std::remove(path.c_str()), 0);
+    }
 }
 
 // The whole program in a folder of its own, with sounds that can be told from each other.
