@@ -1,10 +1,9 @@
 #include "app/program.h"
 
 #include "app/tick.h"
-#include "core/program_folder.h"
 
-Program::Program(const std::string& programFolder, Art& pictures) : art(pictures), scores(ScoresFolder(programFolder)) {
-    game.session.AppPath = programFolder;
+Program::Program(const ProgramFiles& files, Art& pictures) : art(pictures), scores(files.scores) {
+    game.session.AppPath = files.data;
     game.settings = store.LoadSettings();
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }

@@ -43,4 +43,5 @@ void ApplyLook() {
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
     QCoreApplication::setApplicationName("LuckyCup");
+    QGuiApplication::setDesktopFileName("luckycup");
 }
