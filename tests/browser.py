@@ -44,7 +44,7 @@ class Browser:
                  mobile=False)
 
     def close(self):
-        self._process.terminate()
+        self.ask("Browser.close")
         self._process.wait()
 
     def ask(self, method, **parameters):
@@ -100,21 +100,26 @@ WINDOW = 160, 20, 320, 545
 DICE = 168, 435, 190, 125
 BOXES = 303, 98, 165, 300
 FIRST_DIE, CUP, FREE_COLUMN_ONES, DESK = (200, 465), (415, 490), (395, 110), (20, 300)
+BESIDE = 20, 300, 100, 100
 SETTINGS = "[General]\nNumberOfDice=5\nNumberOfColumns=4\nShowDialog=False\nShowSplash=False\nShowStatusBar=False\n"
 
-# Where the picture has changed since the last call: left, top, right, bottom.
-CHANGED = """(() => {
+# Keeps the picture, or tells where it differs from the kept one by more than the compression does, but for the window's
+# title: left, top, right, bottom.
+PICTURE = """
     const canvas = document.querySelector("canvas");
     const now = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height).data;
-    const box = [canvas.width, canvas.height, 0, 0];
-    for (let i = 0; window.last && i < now.length; i += 4) {
-        if (now[i] === last[i] && now[i + 1] === last[i + 1] && now[i + 2] === last[i + 2]) continue;
+"""
+KEEP = f"(() => {{ {PICTURE} window.kept = now; }})()"
+CHANGED = f"""(() => {{
+    {PICTURE}
+    let box = [canvas.width, canvas.height, 0, 0];
+    for (let i = 4 * canvas.width * {WINDOW[1] + 30}; i < now.length; i += 4) {{
+        if ([0, 1, 2].every(colour => Math.abs(now[i + colour] - window.kept[i + colour]) < 40)) continue;
         const x = i / 4 % canvas.width, y = Math.floor(i / 4 / canvas.width);
-        box.splice(0, 4, Math.min(box[0], x), Math.min(box[1], y), Math.max(box[2], x), Math.max(box[3], y));
-    }
-    window.last = now;
+        box = [Math.min(box[0], x), Math.min(box[1], y), Math.max(box[2], x), Math.max(box[3], y)];
+    }}
     return box.join(" ");
-})()"""
+}})()"""
 
 
 def still(browser, place):
@@ -150,19 +155,25 @@ def play(browser):
     shows(browser, "a click writes a box", BOXES, lambda: browser.click(*FREE_COLUMN_ONES))
 
 
+def changed(browser):
+    left, top, right, bottom = map(int, browser.value(CHANGED).split())
+    return (left, top, right, bottom) if left <= right else None
+
+
 def ask_and_move(browser):
-    board = still(browser, WINDOW)
-    browser.value(CHANGED)
-    shows(browser, "F2 opens a question", EVERYTHING, lambda: browser.press("F2"))
-    left, top, right, _ = map(int, browser.value(CHANGED).split())
-    title = (left + right) // 2, top + 8
-    shows(browser, "the question is moved by its title", DESK + (100, 100), lambda: browser.drag(*title, -140, 200))
-    shows(browser, "Escape answers it", DESK + (100, 100), lambda: browser.press("Escape"))
     browser.mouse("mouseMoved", *DESK)
-    holds(still(browser, WINDOW) == board, "the table is as it was")
+    still(browser, WINDOW)
+    browser.value(KEEP)
+    shows(browser, "F2 opens a question", EVERYTHING, lambda: browser.press("F2"))
+    left, top, right, _ = changed(browser)
+    title = (left + right) // 2, top + 8
+    shows(browser, "the question is moved by its title", BESIDE, lambda: browser.drag(*title, -200, 60))
+    shows(browser, "Escape answers it", BESIDE, lambda: browser.press("Escape"))
+    browser.mouse("mouseMoved", *DESK)
+    wait_for("the table as it was", lambda: not changed(browser))
     shows(browser, "the space bar puts the table away", WINDOW, lambda: browser.press(" "))
     shows(browser, "a click beside it brings it back", WINDOW, lambda: browser.click(*DESK))
-    holds(still(browser, WINDOW) == board, "the table is as it was")
+    wait_for("the table as it was", lambda: not changed(browser))
 
 
 def stay_out(browser, address, port):
@@ -203,7 +214,7 @@ def serve(folder, program):
 
 def main():
     program = sys.argv[1]
-    with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryDirectory() as profile:
+    with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as profile:
         browser = Browser(profile)
         served, address, port = serve(folder, program)
         try:
