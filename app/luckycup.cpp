@@ -28,13 +28,13 @@ ProgramFiles Files() {
 }  // namespace
 
 int Main(QApplication& app) {
+    Art art;
     QLockFile lock(LockPath());
     if (RunsAlready(lock)) {
-        ShowMessageBox(nullptr,
+        ShowMessageBox(nullptr, art,
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;
     }
-    Art art;
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(Files(), art);
     program.ShowMainWindow();

@@ -5,7 +5,7 @@
 
 QFont TableFont(bool bold, int pixels) {
     QFont font;
-    font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans"});
+    font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
     font.setPixelSize(pixels);
     font.setBold(bold);
     return font;
@@ -17,18 +17,24 @@ QFont BoxFont() {
     return font;
 }
 
+QFont FittedFont(QFont font, const QString& text, int width) {
+    constexpr int smallest = 7;
+    while (font.pixelSize() > smallest && QFontMetrics(font).horizontalAdvance(text) > width)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight) {
     const QRect device = DeviceArea(painter, area);
-    const int width = std::max(1, static_cast<int>(painter.device()->devicePixelRatioF()));
     painter.save();
     UseDevicePixels(painter);
     if (bottomRight.isValid()) {
-        painter.fillRect(QRect(device.bottomLeft() - QPoint(0, width - 1), device.bottomRight()), bottomRight);
-        painter.fillRect(QRect(device.topRight() - QPoint(width - 1, 0), device.bottomRight()), bottomRight);
+        painter.fillRect(QRect(device.bottomLeft(), device.bottomRight()), bottomRight);
+        painter.fillRect(QRect(device.topRight(), device.bottomRight()), bottomRight);
     }
     if (topLeft.isValid()) {
-        painter.fillRect(QRect(device.topLeft(), device.topRight() + QPoint(0, width - 1)), topLeft);
-        painter.fillRect(QRect(device.topLeft(), device.bottomLeft() + QPoint(width - 1, 0)), topLeft);
+        painter.fillRect(QRect(device.topLeft(), device.topRight()), topLeft);
+        painter.fillRect(QRect(device.topLeft(), device.bottomLeft()), topLeft);
     }
     painter.restore();
 }
@@ -37,6 +43,11 @@ Shape::Shape(const QString& name, QWidget* parent, QColor fill, QColor topLeftEd
     : QWidget(parent), fill_(fill), topLeftEdge_(topLeftEdge), bottomRightEdge_(bottomRightEdge) {
     setObjectName(name);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Shape::SetFill(QColor fill) {
+    fill_ = fill;
+    update();
 }
 
 void Shape::paintEvent(QPaintEvent*) {
@@ -60,10 +71,12 @@ void TextLabel::SetLook(const LabelLook& look) {
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), look_.ground);
+    if (look_.ground.isValid()) painter.fillRect(rect(), look_.ground);
     PaintEdges(painter, rect(), look_.topLeftEdge, look_.bottomRightEdge);
     painter.setPen(look_.text);
-    painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+    painter.setFont(FittedFont(font(), text(), contentsRect().width()));
+    const int flags = static_cast<int>(alignment()) | Qt::TextSingleLine | Qt::TextDontClip;
+    painter.drawText(contentsRect().translated(0, drop_), flags, text());
 }
 
 Picture::Picture(const QString& name, QWidget* parent, Art& art, const QString& picture)
@@ -90,7 +103,10 @@ void PictureButton::SetLooks(const Looks& looks) {
 
 void PictureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QString& wanted = !isEnabled() ? looks_.disabled : underMouse() ? looks_.underMouse : looks_.plain;
+    const QString& wanted = !isEnabled()   ? looks_.disabled
+                            : isDown()     ? looks_.pressed
+                            : underMouse() ? looks_.underMouse
+                                           : looks_.plain;
     art_.Draw(painter, rect(), wanted.isEmpty() ? looks_.plain : wanted);
 }
 
@@ -119,13 +135,32 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
+    constexpr qreal radius = 6;
+    constexpr qreal edge = 2.5;
     QPainter painter(this);
-    QLinearGradient satin(0, 0, 0, height());
-    satin.setColorAt(0, underMouse() ? colour::satinHot : colour::satinHigh);
-    satin.setColorAt(1, colour::satinLow);
-    painter.fillRect(rect(), satin);
-    const QColor light = Qt::white;
-    PaintEdges(painter, rect(), isDown() ? colour::satinEdge : light, isDown() ? light : colour::satinEdge);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF outer = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(QPen(colour::goldEdge, 1));
+    painter.setBrush(Shaded(isDown() ? colour::goldLow : colour::goldHigh, colour::gold,
+                            isDown() ? colour::goldHigh : colour::goldLow));
+    painter.drawRoundedRect(outer, radius, radius);
+    const QColor top = isDown() ? colour::satinLow : underMouse() ? colour::satinHot : colour::satinHigh;
+    const QColor bottom = isDown() ? colour::satinHigh : colour::satinLow;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Shaded(top, {}, bottom));
+    painter.drawRoundedRect(outer.adjusted(edge, edge, -edge, -edge), radius - edge / 2, radius - edge / 2);
+    PaintCaption(painter);
+}
+
+QLinearGradient CaptionButton::Shaded(const QColor& top, const QColor& middle, const QColor& bottom) const {
+    QLinearGradient gradient(0, 0, 0, height());
+    gradient.setColorAt(0, top);
+    if (middle.isValid()) gradient.setColorAt(0.5, middle);
+    gradient.setColorAt(1, bottom);
+    return gradient;
+}
+
+void CaptionButton::PaintCaption(QPainter& painter) {
     const QRect area = rect().adjusted(6, 4, -6, -4);
     const int lines = area.height() / fontMetrics().lineSpacing();
     const int room = area.width() * std::max(1, lines - 2);  // a broken line is never quite full

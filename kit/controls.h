@@ -27,26 +27,33 @@ inline constexpr QColor columnTotalText{0x00, 0x00, 0xC0};
 inline constexpr QColor sumLabel{0xCF, 0xD0, 0xE0};
 inline constexpr QColor tray{0x50, 0x50, 0x50};
 inline constexpr QColor trayEdge{0x3C, 0x3C, 0x3C};
-inline constexpr QColor satinHot{0xE6, 0xF0, 0xFF};
-inline constexpr QColor satinHigh{0xC2, 0xD7, 0xFA};
-inline constexpr QColor satinLow{0x86, 0xAB, 0xEC};
-inline constexpr QColor satinEdge{0x1D, 0x3A, 0x7A};
+inline constexpr QColor satinHot{0xF4, 0xF8, 0xFF};
+inline constexpr QColor satinHigh{0xD5, 0xE3, 0xFB};
+inline constexpr QColor satinLow{0x9C, 0xBB, 0xF0};
+inline constexpr QColor goldHigh{0xFF, 0xF0, 0xB8};
+inline constexpr QColor gold{0xF0, 0xBE, 0x45};
+inline constexpr QColor goldLow{0xB8, 0x7C, 0x17};
+inline constexpr QColor goldEdge{0x6A, 0x45, 0x08};
 inline constexpr QColor boxGround{0x90, 0x90, 0x90};
+inline constexpr QColor dimmed{0x10, 0x18, 0x30, 0x80};
 inline constexpr QColor tip{0xFF, 0xFF, 0x00};
 inline constexpr QColor highlight{0xFF, 0xFF, 0xE1};
 }  // namespace colour
 
 // A font of the told families, or of those that stand for them, in device-independent pixels.
 QFont TableFont(bool bold, int pixels = 11);
+// The same font, smaller where the text would not fit the width in pixels.
+QFont FittedFont(QFont font, const QString& text, int width);
 QFont BoxFont();  // of boxes and totals
 
-// The edge of an area, about one pixel wide and everywhere of the same width. An invalid colour paints nothing.
+// The edge of an area, one device pixel wide. An invalid colour paints nothing.
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight);
 
 // A filled area with an edge; one that is nothing but a left or top edge is a line. Takes no mouse.
 class Shape final : public QWidget {
 public:
     Shape(const QString& name, QWidget* parent, QColor fill, QColor topLeftEdge = {}, QColor bottomRightEdge = {});
+    void SetFill(QColor fill);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -56,21 +63,24 @@ private:
 };
 
 struct LabelLook {
-    QColor ground, text;
+    QColor ground;  // invalid: what lies behind shows
+    QColor text;
     QColor topLeftEdge, bottomRightEdge;  // invalid: no edge
 };
 
-// A text on coloured ground, in the font of its parent. Takes no mouse.
+// A text on coloured ground, in the font of its parent, or a smaller one where it would not fit. Takes no mouse.
 class TextLabel final : public QLabel {
 public:
     TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment);
     void SetLook(const LabelLook& look);
+    void SetDrop(int pixels) { drop_ = pixels; }  // how far below its middle the text stands
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     LabelLook look_;
+    int drop_ = 0;
 };
 
 // A picture that only shows.
@@ -90,7 +100,8 @@ private:
 class PictureButton : public QAbstractButton {
 public:
     struct Looks {
-        QString plain, underMouse, disabled;
+        QString plain;
+        QString underMouse{}, pressed{}, disabled{};
     };
 
     PictureButton(const QString& name, QWidget* parent, Art& art, const Looks& looks);
@@ -107,7 +118,7 @@ private:
     Looks looks_;
 };
 
-// A push button with a caption that wraps.
+// A raised push button with a golden edge and a caption that wraps.
 class CaptionButton final : public QAbstractButton {
 public:
     CaptionButton(const QString& name, QWidget* parent);
@@ -118,5 +129,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // From top to bottom; a middle that is no colour is left out.
+    QLinearGradient Shaded(const QColor& top, const QColor& middle, const QColor& bottom) const;
+    void PaintCaption(QPainter& painter);
+
     QString caption_;
 };

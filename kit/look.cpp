@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QToolTip>
+
+#include "kit/controls.h"
 
 namespace {
 struct RoleColour {
@@ -42,6 +45,8 @@ void ApplyLook() {
     for (const RoleColour& entry : disabledColours)
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
+    QApplication::setFont(TableFont(false));
+    QToolTip::setFont(TableFont(false));
     QCoreApplication::setApplicationName("LuckyCup");
     QGuiApplication::setDesktopFileName("luckycup");
 }

@@ -1,34 +1,50 @@
 #include "kit/message_box.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QMessageBox>
+#include <algorithm>
+
+#include "kit/controls.h"
 
 namespace {
-QMessageBox::Icon IconOf(MessageIcon icon) {
+constexpr QSize iconSize(32, 32);
+constexpr int textWidth = 240;  // beside the icon, so that the box is about as wide as the table
+
+QString PictureOf(MessageIcon icon) {
     switch (icon) {
         case MessageIcon::Question:
-            return QMessageBox::Question;
+            return "message_question";
         case MessageIcon::Warning:
-            return QMessageBox::Warning;
+            return "message_warning";
         case MessageIcon::Stop:
-            return QMessageBox::Critical;
+            return "message_stop";
         case MessageIcon::Information:
-            return QMessageBox::Information;
+            return "message_information";
     }
-    return QMessageBox::NoIcon;
+    return {};
+}
+
+void WrapText(const QMessageBox& box) {
+    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (!label) return;
+    label->setWordWrap(true);
+    label->setFixedWidth(std::min(textWidth, label->fontMetrics().horizontalAdvance(label->text()) + 2));
 }
 }  // namespace
 
-Answer ShowMessageBox(QWidget* parent, const Message& message) {
+Answer ShowMessageBox(QWidget* parent, Art& art, const Message& message) {
     const bool mayCancel = message.buttons == MessageButtons::OkCancel;
     QMessageBox box(parent);
-    box.setIcon(IconOf(message.icon));
+    box.setIconPixmap(art.Scaled(PictureOf(message.icon), iconSize, box.devicePixelRatioF()));
     box.setWindowTitle(QString::fromStdString(message.title));
+    box.setFont(TableFont(false));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(message.text));
     box.setStandardButtons(mayCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
     for (QAbstractButton* button : box.buttons()) button->setIcon({});
+    WrapText(box);
     const int button = box.exec();
     return mayCancel && button != QMessageBox::Ok ? Answer::Cancel : Answer::Ok;
 }

@@ -1,6 +1,11 @@
 #include "kit/qt_timers.h"
 
+#include <algorithm>
+
 namespace {
+// ms. Nobody sees what changes more often than a screen draws.
+constexpr int shortestInterval = 16;
+
 // Ticks that the eye follows come on time; the others may be gathered by the system to wake up less often.
 Qt::TimerType TypeFor(int interval) { return interval < 100 ? Qt::PreciseTimer : Qt::CoarseTimer; }
 }  // namespace
@@ -14,7 +19,7 @@ QtTimers::QtTimers(EventGate& gate) : gate_(gate) {
 void QtTimers::Start(Timer timer, int interval) {
     slots_[timer].due = false;
     slots_[timer].timer.setTimerType(TypeFor(interval));
-    slots_[timer].timer.start(interval);
+    slots_[timer].timer.start(std::max(interval, shortestInterval));
 }
 
 void QtTimers::Stop(Timer timer) {

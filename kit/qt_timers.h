@@ -7,7 +7,8 @@
 #include "core/ports/timers.h"
 #include "kit/event_gate.h"
 
-// The table's seven timers. A tick that falls due while a handler runs comes once, when the handler has ended.
+// The table's seven timers, which tick no faster than every 16 ms. A tick that falls due while a handler runs comes
+// once, when the handler has ended.
 class QtTimers final : public Timers {
 public:
     using Tick = std::function<void(Timer)>;

@@ -1,7 +1,7 @@
 #include "script/headless_dialogs.h"
 
 #include "core/end_of_game.h"
-#include "dialogs/score_result.h"
+#include "dialogs/scores_form.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ void HeadlessDialogs::frmTheWinerIs(Game& game) {
 }
 
 void HeadlessDialogs::frmScores2(Game& game) {
-    if (game.session.ShowScoreResult) PlayScoreResultJingle(game);
+    frmScores2_Unload(game, frmScores2_Load(game));
     log_.push_back("dialog frmScores2");
 }
 

@@ -25,6 +25,9 @@ void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list
     for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
 }
 
-QString FittedText(const std::string& text, const QFont& font, int width) {
-    return QFontMetrics(font).elidedText(QString::fromStdString(text), Qt::ElideMiddle, width);
+QString FittedText(const QString& text, const QString& tail, const QFont& font, int width) {
+    const QFontMetrics metrics(font);
+    if (!text.endsWith(tail)) return metrics.elidedText(text, Qt::ElideRight, width);
+    const int room = width - metrics.horizontalAdvance(tail);
+    return metrics.elidedText(text.chopped(tail.size()), Qt::ElideRight, room) + tail;
 }

@@ -19,5 +19,5 @@ private:
     QWidget& owner_;
 };
 
-// The text, its middle left out where it is too wide for the width in pixels.
-QString FittedText(const std::string& text, const QFont& font, int width);
+// The text, cut before its tail where it is too wide for the width in pixels.
+QString FittedText(const QString& text, const QString& tail, const QFont& font, int width);

@@ -29,7 +29,6 @@ QGroupBox* Group(const char* name, const char* title, std::initializer_list<QWid
     auto* group = Named<QGroupBox>(name, title);
     auto* column = new QVBoxLayout(group);
     for (QWidget* control : controls) column->addWidget(control);
-    column->addStretch();
     return group;
 }
 }  // namespace
@@ -61,6 +60,7 @@ frmOptions::frmOptions(QWidget& owner, Game& game, Art& art)
     Show();
     Connect();
     PlaceOverOwner();
+    (form_.optYahtzee ? optYahtzee_ : optYamb_)->setFocus();
 }
 
 QWidget* frmOptions::MakePage() {
@@ -100,7 +100,7 @@ QGroupBox* frmOptions::MakeVolume() {
 }
 
 QBoxLayout* frmOptions::MakeButtons(Art& art) {
-    auto* ok = Named<QPushButton>("HoverCommand1", "  &OK");
+    auto* ok = Named<QPushButton>("HoverCommand1", "  &OK  ");
     auto* cancel = Named<QPushButton>("HoverCommand2", "&Cancel");
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &frmOptions::Ok);
@@ -116,7 +116,15 @@ QBoxLayout* frmOptions::MakeButtons(Art& art) {
 void frmOptions::Connect() {
     connect(opt1Player_, &QRadioButton::clicked, this, [this] { ChoosePlayers(opt1Player_Click); });
     connect(opt2Players_, &QRadioButton::clicked, this, [this] { ChoosePlayers(opt2Players_Click); });
+    for (QRadioButton* button : findChildren<QRadioButton*>())
+        connect(button, &QRadioButton::toggled, this, &frmOptions::StopTabAtChecked);
     connect(sldVolume_, &QSlider::valueChanged, this, [this](int volume) { sldVolume_Change(game_, form_, volume); });
+}
+
+// Tab stops at the checked button of a group alone, from where the arrows lead to the others.
+void frmOptions::StopTabAtChecked() {
+    for (QRadioButton* button : findChildren<QRadioButton*>())
+        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void frmOptions::Show() {
@@ -133,6 +141,7 @@ void frmOptions::Show() {
     const bool splash = form_.showAtStartUp == StartUpWindow::Splash;
     const bool dialog = form_.showAtStartUp == StartUpWindow::Dialog;
     (dialog ? optShowDialog_ : splash ? optShowSplash_ : optShowNone_)->setChecked(true);
+    StopTabAtChecked();
     const QSignalBlocker untouched(sldVolume_);  // only a movement by the player writes the setting
     sldVolume_->setValue(form_.sldVolume);
 }

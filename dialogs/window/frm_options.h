@@ -27,6 +27,7 @@ private:
     QGroupBox* MakeVolume();
     QBoxLayout* MakeButtons(Art& art);
     void Connect();
+    void StopTabAtChecked();
     void Show();  // the form in the controls
     void Read();  // what was typed and checked into the form
     void ChoosePlayers(void (*click)(OptionsForm&));

@@ -9,17 +9,22 @@
 namespace {
 constexpr int scoreFont = 13;  // 9.75 points
 constexpr int verdictFont = 16;
+
+// What stands behind a name and is never cut.
+constexpr const char* scoreTail = "'s Total Score:";
+constexpr const char* verdictTail = " Wins!";
 }  // namespace
 
 frmTheWinerIs::frmTheWinerIs(QWidget& owner, Game& game, Art& art)
     : DialogWindow(owner, "frmTheWinerIs", "And the Winer is...", 3915, 2010) {
     PlaceOverOwner();
     const WinnerTexts texts = frmTheWinerIs_Load(game);
-    AddLabel("lblPlayer1", Pixels(Place{180, 105, 2500, 280}), scoreFont, texts.lblPlayer1);
+    AddLabel("lblPlayer1", Pixels(Place{180, 105, 2500, 280}), scoreFont, texts.lblPlayer1, scoreTail);
     AddLabel("lblScore1", Pixels(Place{3000, 105, 800, 280}), scoreFont, texts.lblScore1);
-    AddLabel("lblPlayer2", Pixels(Place{180, 495, 2500, 240}), scoreFont, texts.lblPlayer2);
+    AddLabel("lblPlayer2", Pixels(Place{180, 495, 2500, 240}), scoreFont, texts.lblPlayer2, scoreTail);
     AddLabel("lblScore2", Pixels(Place{3000, 500, 800, 280}), scoreFont, texts.lblScore2);
-    QLabel* verdict = AddLabel("lblWiner", Pixels(Place{200, 1000, 3500, 300}), verdictFont, texts.lblWiner);
+    QLabel* verdict =
+        AddLabel("lblWiner", Pixels(Place{200, 1000, 3500, 300}), verdictFont, texts.lblWiner, verdictTail);
     verdict->setAlignment(Qt::AlignCenter);
     QPalette red = verdict->palette();
     red.setColor(QPalette::WindowText, Qt::red);
@@ -33,14 +38,15 @@ frmTheWinerIs::frmTheWinerIs(QWidget& owner, Game& game, Art& art)
     SetPointers(game, art, {close});
 }
 
-QLabel* frmTheWinerIs::AddLabel(const char* name, const QRect& area, int fontPixels, const std::string& text) {
+QLabel* frmTheWinerIs::AddLabel(const char* name, const QRect& area, int fontPixels, const std::string& text,
+                                const QString& tail) {
     auto* label = new QLabel(this);
     label->setObjectName(name);
     label->setGeometry(area);
     label->setFont(TableFont(true, fontPixels));
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setTextFormat(Qt::PlainText);
-    label->setText(FittedText(text, label->font(), area.width()));
+    label->setText(FittedText(QString::fromStdString(text), tail, label->font(), area.width()));
     label->setAccessibleName(QString::fromStdString(text));
     return label;
 }

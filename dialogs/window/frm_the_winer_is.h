@@ -10,5 +10,6 @@ public:
     frmTheWinerIs(QWidget& owner, Game& game, Art& art);
 
 private:
-    QLabel* AddLabel(const char* name, const QRect& area, int fontPixels, const std::string& text);
+    QLabel* AddLabel(const char* name, const QRect& area, int fontPixels, const std::string& text,
+                     const QString& tail = {});
 };

@@ -1,8 +1,11 @@
 #include "dialogs/window/qt_dialogs.h"
 
+#include <QApplication>
+
 #include "core/game.h"
 #include "dialogs/window/frm_end_game.h"
 #include "dialogs/window/frm_options.h"
+#include "dialogs/window/frm_scores2.h"
 #include "dialogs/window/frm_the_winer_is.h"
 #include "kit/message_box.h"
 
@@ -12,7 +15,9 @@ QWidget& QtDialogs::Owner(const Game& game) const {
 
 Answer QtDialogs::ShowMessage(const Message& message) {
     const EventGate::Open open(gate_);
-    return ShowMessageBox(firstWindow_ ? firstWindow_ : &mainWindow_, message);
+    QWidget* const window = firstWindow_ ? firstWindow_ : &mainWindow_;
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return ShowMessageBox(dialog ? dialog : window, art_, message);
 }
 
 void QtDialogs::frmEndGame(Game& game) {
@@ -23,6 +28,12 @@ void QtDialogs::frmEndGame(Game& game) {
 
 void QtDialogs::frmTheWinerIs(Game& game) {
     ::frmTheWinerIs dialog(Owner(game), game, art_);
+    const EventGate::Open open(gate_);
+    dialog.exec();
+}
+
+void QtDialogs::frmScores2(Game& game) {
+    ::frmScores2 dialog(Owner(game), game, art_);
     const EventGate::Open open(gate_);
     dialog.exec();
 }

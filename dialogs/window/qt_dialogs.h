@@ -17,9 +17,9 @@ public:
     Answer ShowMessage(const Message& message) override;
     void frmEndGame(Game& game) override;
     void frmTheWinerIs(Game& game) override;
-    void frmScores2(Game&) override {}  // these three open nothing yet
+    void frmScores2(Game& game) override;
     void frmOptions(Game& game) override;
-    void frmQuickStart(Game&) override {}
+    void frmQuickStart(Game&) override {}  // these two open nothing yet
     void frmAbout(Game&) override {}
 
 private:

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "table/row_names.h"
+#include "table/window/tool_tips.h"
 
 namespace {
 constexpr LabelLook boxLook{colour::box, colour::black, colour::boxShade, colour::boxShine};
@@ -17,9 +18,11 @@ QString Index(const QString& array, int i) { return QString("%1_%2").arg(array).
 
 QString Called(ScoreColumn column, const char* what) { return QString("%1 column, %2").arg(ColumnName(column), what); }
 
-PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_empty"}; }
-PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, {}}; }
-PictureButton::Looks WideHotLooks(int row) { return {Index("row_hot", row), {}, Index("row_plain", row)}; }
+PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_pressed", "box_empty"}; }
+PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, Index("row_pressed", row), {}}; }
+PictureButton::Looks WideHotLooks(int row) {
+    return {Index("row_hot", row), {}, Index("row_pressed", row), Index("row_plain", row)};
+}
 }  // namespace
 
 BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover)
@@ -71,7 +74,20 @@ Board::Board(QWidget* table, Art& art, const Events& events)
       arrowsOne_(new Picture("imgArrow2", table, art, "arrows_1")) {
     arrowsFour_->setGeometry(Pixels(arrowsFourPlace));
     arrowsOne_->setGeometry(Pixels(arrowsOnePlace));
+    arrowsOne_->setToolTip(oneColumnTip);
+    TellColumns();
     for (ScoreColumn column : allColumns) MakeColumn(column, table, art, events);
+}
+
+// The strip's four parts, from the top.
+void Board::TellColumns() {
+    const QRect strip = arrowsFour_->rect();
+    for (int i = 0; i < 4; ++i) {
+        auto* part = new QWidget(arrowsFour_);
+        part->setAttribute(Qt::WA_TransparentForMouseEvents);
+        part->setGeometry(0, i * strip.height() / 4, strip.width(), strip.height() / 4);
+        part->setToolTip(columnTips[allColumns[static_cast<std::size_t>(i)]]);
+    }
 }
 
 void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events) {

@@ -55,6 +55,7 @@ private:
         ByTotalRow<TextLabel*> totals{};
     };
 
+    void TellColumns();
     void MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events);
     void PlaceColumn(ScoreColumn column, int columns);
 

@@ -2,12 +2,14 @@
 
 #include <QMouseEvent>
 
+#include "table/window/tool_tips.h"
+
 namespace {
 QString Index(const char* array, int i) { return QString("%1_%2").arg(array).arg(i); }
 
-PictureButton::Looks FreeLooks(int face) { return {Index("die_free", face), {}, {}}; }
-PictureButton::Looks RollingLooks(int face) { return {Index("die_roll", face), {}, {}}; }
-PictureButton::Looks HeldLooks(int face) { return {Index("die_held", face), {}, {}}; }
+PictureButton::Looks FreeLooks(int face) { return {.plain = Index("die_free", face)}; }
+PictureButton::Looks RollingLooks(int face) { return {.plain = Index("die_roll", face)}; }
+PictureButton::Looks HeldLooks(int face) { return {.plain = Index("die_held", face)}; }
 
 QString Said(int i, int face, const char* state) {
     return QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state);
@@ -16,11 +18,11 @@ QString Said(int i, int face, const char* state) {
 PictureButton::Looks RollLooks(RollPicture kind) {
     switch (kind) {
         case RollPicture::Up:
-            return {"roll_up", {}, {}};
+            return {.plain = "roll_up"};
         case RollPicture::On:
-            return {"roll_on", {}, {}};
+            return {.plain = "roll_on"};
         case RollPicture::Off:
-            return {"roll_off", {}, {}};
+            return {.plain = "roll_off"};
     }
     return {};
 }
@@ -29,6 +31,16 @@ PictureButton::Looks RollLooks(RollPicture kind) {
 RollButton::RollButton(QWidget* parent, Art& art, std::function<void()> cancelled)
     : PictureButton("picRollDices", parent, art, RollLooks(RollPicture::Up)), cancelled_(std::move(cancelled)) {
     setAccessibleName("Roll the dice");
+}
+
+void RollButton::SetDimmed(bool on) {
+    dimmed_ = on;
+    update();
+}
+
+void RollButton::paintEvent(QPaintEvent* event) {
+    PictureButton::paintEvent(event);
+    if (dimmed_) QPainter(this).fillRect(rect(), colour::dimmed);
 }
 
 // The release of a mouse button goes to the modal window that has come up meanwhile.
@@ -61,7 +73,7 @@ DiceTray::DiceTray(QWidget* table, Art& art, const Events& events)
 
 void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
     Die& die = At(i);
-    die.frame = new Shape(dieFrameNames[i], table, colour::trayEdge);
+    die.frame = new Shape(dieFrameNames[i], table, QColor());  // the shadow of a die lies in its picture
     die.free = new PictureButton(Index("picDice", i), table, art, {});
     die.held = new PictureButton(Index("PicDiceOff", i), table, art, {});
     ShowFree(i);
@@ -78,17 +90,19 @@ void DiceTray::MakeRollButton(Art& art, const Events& events) {
         const QRect area = Pixels(Place{lampLefts[k], lampTop, lampSize, lampSize});
         darkLamps_[k] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
         litLamps_[k] = new Picture(Index("picRound", k), roll_, art, "lamp_lit");
+        darkLamps_[k]->setToolTip(lampsTip);
+        litLamps_[k]->setToolTip(lampsTip);
         darkLamps_[k]->setGeometry(area);
         litLamps_[k]->setGeometry(area);
     }
     SetLamps(0);
-    nextPlayer_ = new CaptionButton("cmdNextPlayer", roll_);
-    nextPlayer_->setGeometry(Pixels(nextPlayerPlace));
+    nextPlayer_ = new CaptionButton("cmdNextPlayer", roll_->parentWidget());
     nextPlayer_->SetCaption("Next Player");
+    nextPlayer_->setToolTip(nextPlayerTip);
     nextPlayer_->hide();
     QObject::connect(nextPlayer_, &QAbstractButton::clicked, nextPlayer_, events.nextPlayer);
-    showBoard_ = new CaptionButton("cmdShowNextBoard", roll_);
-    showBoard_->setGeometry(Pixels(showBoardPlace));
+    showBoard_ = new CaptionButton("cmdShowNextBoard", roll_->parentWidget());
+    showBoard_->setToolTip(showBoardTip);
     ShowNextBoardButton(false, false);
     QObject::connect(showBoard_, &QAbstractButton::clicked, showBoard_, events.showBoard);
 }
@@ -96,7 +110,10 @@ void DiceTray::MakeRollButton(Art& art, const Events& events) {
 void DiceTray::LayOut(int columns, int lastDieIndex) {
     tray_->setGeometry(Pixels(trayPlace.In(columns)));
     rollFrame_->setGeometry(Pixels(rollFramePlace.In(columns)));
-    roll_->setGeometry(Pixels(rollPlace.In(columns)));
+    const Place roll = rollPlace.In(columns);
+    roll_->setGeometry(Pixels(roll));
+    nextPlayer_->setGeometry(Pixels(Within(roll, nextPlayerPlace)));
+    showBoard_->setGeometry(Pixels(Within(roll, showBoardPlace)));
     for (int i = 0; i < maxDice; ++i) {
         const QRect area = Pixels(DiePlace(i, columns, lastDieIndex));
         At(i).free->setGeometry(area);
@@ -149,6 +166,11 @@ void DiceTray::SetLamps(int n) {
         litLamps_[k]->setVisible(k < n);
         darkLamps_[k]->setVisible(k >= n);
     }
+}
+
+void DiceTray::ShowNextPlayer(bool on) {
+    nextPlayer_->setVisible(on);
+    roll_->SetDimmed(on);
 }
 
 void DiceTray::ShowNextBoardButton(bool visible, bool enabled) {

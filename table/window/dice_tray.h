@@ -10,8 +10,10 @@
 class RollButton final : public PictureButton {
 public:
     RollButton(QWidget* parent, Art& art, std::function<void()> cancelled);
+    void SetDimmed(bool on);  // while another button lies on it
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -19,9 +21,11 @@ protected:
 private:
     std::function<void()> cancelled_;
     Qt::MouseButtons held_;
+    bool dimmed_ = false;
 };
 
-// The dark tray with the dice, and the Roll button with what it holds: lamps, Next Player and Show Board.
+// The dark tray with the dice, and the Roll button with its lamps. Next Player and Show Board lie on
+// it and take clicks whatever its state.
 class DiceTray {
 public:
     struct Events {
@@ -44,7 +48,7 @@ public:
     void Hide(int i);
     void EnableDie(int i, bool on);
     void SetLamps(int n);
-    void ShowNextPlayer(bool on) { nextPlayer_->setVisible(on); }
+    void ShowNextPlayer(bool on);
     void ShowNextBoardButton(bool visible, bool enabled);
     void SetShowBoardCaption(const QString& caption) { showBoard_->SetCaption(caption); }
 

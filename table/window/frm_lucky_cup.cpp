@@ -12,6 +12,7 @@
 #include "core/two_players.h"
 #include "kit/pointers.h"
 #include "table/main_window.h"
+#include "table/window/tool_tips.h"
 
 namespace {
 constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -51,6 +52,7 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
       menuBar_(new MenuBar(this, art_, Commands())),
       statusBar_(new StatusBarWidget(table_)) {
     setObjectName("frmLuckyCup");
+    score_->setToolTip(counterTip);
     setMenuBar(menuBar_);
     setCentralWidget(table_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);

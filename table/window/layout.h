@@ -81,19 +81,24 @@ inline constexpr int tipLeft = 1300;
 inline constexpr int tipWidth = 300;
 inline constexpr ByRow<int> rowLabelTops{{15, 280, 550, 810, 1080, 1350, 1920, 2195, 2785, 3055, 3325, 3595, 3870}};
 
+constexpr ControlPlace TotalPlace(TotalRow row) {
+    return {"", {boardLeft, totalTops[row], boardWidth, boxLabelHeight}};
+}
+
 struct SumRow {
     const char* label;
     const char* frame;
     const char* text;
     int top;
+    ControlPlace beside;  // what it labels; the top and the height count
     int moves = 0;
     bool onlyFourColumns = false;
 };
 inline constexpr std::array<SumRow, 4> sumRows{{
-    {"Label4", "shpLabel4", "Sub Total ", 1630},
-    {"Label3", "shpLabel3", "(Max-Min)xOnes", 2490},
-    {"Label13", "shpLabel13", "Column Total ", 4125, 0, true},
-    {"Label2", "shpLabel2", "Grand Total ", 4425, shiftUp},
+    {"Label4", "shpLabel4", "Sub Total ", 1630, TotalPlace(TotalRow::SubTotal)},
+    {"Label3", "shpLabel3", "(Max-Min)xOnes", 2490, TotalPlace(TotalRow::Product)},
+    {"Label13", "shpLabel13", "Column Total ", 4125, TotalPlace(TotalRow::ColumnTotal), 0, true},
+    {"Label2", "shpLabel2", "Grand Total ", 4425, scorePlace, shiftUp},
 }};
 
 // The dice. The frame of a die is 10 twips larger than the die.
@@ -102,6 +107,11 @@ inline constexpr int dieFrameSize = 810;
 inline constexpr ByDie<const char*> dieFrameNames{{"Shape6", "Shape7", "Shape8", "Shape3", "Shape4", "Shape5"}};
 Place DiePlace(int i, int columns, int lastDieIndex);
 Place DieFramePlace(int i, int columns, int lastDieIndex);
+
+// The place of a control that stands at `inner` within `outer`.
+constexpr Place Within(const Place& outer, const Place& inner) {
+    return {outer.left + inner.left, outer.top + inner.top, inner.width, inner.height};
+}
 
 // Within the Roll button.
 inline constexpr int lampCount = 3;

@@ -1,16 +1,31 @@
 #include "table/window/row_labels.h"
 
 #include "table/row_names.h"
+#include "table/window/tool_tips.h"
 
 namespace {
-constexpr LabelLook labelLook{colour::black, colour::white, {}, {}};
-constexpr LabelLook highlightLook{colour::highlight, colour::black, {}, {}};
-constexpr LabelLook tipLook{colour::black, colour::tip, {}, {}};
-constexpr LabelLook sumLook{colour::sumLabel, colour::black, {}, {}};
+constexpr LabelLook labelLook{{}, colour::white, {}, {}};
+constexpr LabelLook highlightLook{{}, colour::black, {}, {}};
+constexpr LabelLook tipLook{{}, colour::tip, {}, {}};
+constexpr LabelLook sumLook{{}, colour::black, {}, {}};
 
 QString Index(const char* array, int i) { return QString("%1_%2").arg(array).arg(i); }
 
-QRect RowArea(int row, int left, int width) { return Pixels(Place{left, rowLabelTops[row], width, rowLabelHeight}); }
+Place LabelPlace(int row, int left, int width) { return {left, rowLabelTops[row], width, rowLabelHeight}; }
+
+// The frame of a label stands in one line with the boxes of its row.
+Place FramePlace(int boxTop, int height, int left, int width) {
+    return {left, boxTop - rowPanelPlace.fourColumns.top, width, height};
+}
+
+// The label keeps its place and lets its text stand in the middle of the frame.
+void PutIntoFrame(TextLabel& label, Shape& frame, const Place& labelPlace, const Place& framePlace) {
+    label.setGeometry(Pixels(labelPlace));
+    frame.setGeometry(Pixels(framePlace));
+    const int labelMiddle = 2 * labelPlace.top + labelPlace.height;
+    const int frameMiddle = 2 * framePlace.top + framePlace.height;
+    label.SetDrop(Pixels((frameMiddle - labelMiddle) / 2));
+}
 }  // namespace
 
 RowLabels::RowLabels(QWidget* table) : panel_(new Shape(rowPanelPlace.name, table, colour::rowPanel)) {
@@ -19,46 +34,52 @@ RowLabels::RowLabels(QWidget* table) : panel_(new Shape(rowPanelPlace.name, tabl
 }
 
 void RowLabels::MakeRow(int row) {
+    labelFrames_[row] = new Shape(Index("shpOptions", row), panel_, colour::black, colour::rowFrame, colour::rowFrame);
     labels_[row] = new TextLabel(Index("lblOption", row), panel_, labelLook, Qt::AlignLeft);
     labels_[row]->setText(RowName(row));
     labels_[row]->setContentsMargins(5, 0, 2, 0);
-    labelFrames_[row] = new Shape(Index("shpOptions", row), panel_, {}, colour::rowFrame, colour::rowFrame);
+    labels_[row]->setToolTip(rowTips[row]);
+    tipFrames_[row] = new Shape(Index("Shape12", row), panel_, colour::black, colour::rowFrame, colour::rowFrame);
     tips_[row] = new TextLabel(Index("lblTip", row), panel_, tipLook, Qt::AlignHCenter);
     tips_[row]->setAccessibleDescription(QString("Hint for ") + RowName(row));
-    tipFrames_[row] = new Shape(Index("Shape12", row), panel_, {}, colour::rowFrame, colour::rowFrame);
-    tips_[row]->setGeometry(RowArea(row, tipLeft, tipWidth));
-    tipFrames_[row]->setGeometry(RowArea(row, tipLeft, tipWidth));
+    PutIntoFrame(*tips_[row], *tipFrames_[row], LabelPlace(row, tipLeft, tipWidth),
+                 FramePlace(boxTops[row], boxLabelHeight, tipLeft, tipWidth));
 }
 
 void RowLabels::MakeSumRow(std::size_t i) {
     const QString text = sumRows[i].text;
+    sumFrames_[i] = new Shape(sumRows[i].frame, panel_, colour::sumLabel, colour::rowFrame, colour::rowFrame);
     sums_[i] = new TextLabel(sumRows[i].label, panel_, sumLook, Qt::AlignRight);
     sums_[i]->setText(text);
     sums_[i]->setContentsMargins(2, 0, text.endsWith(' ') ? 2 : 5, 0);
-    sumFrames_[i] = new Shape(sumRows[i].frame, panel_, {}, colour::rowFrame, colour::rowFrame);
+    sums_[i]->setToolTip(sumTips[i]);
 }
 
 void RowLabels::SetFrameHeight(int columns) { panel_->setGeometry(Pixels(rowPanelPlace.In(columns))); }
 
 void RowLabels::LayOut(int columns) {
     for (std::size_t i = 0; i < sumRows.size(); ++i) {
-        const ControlPlace place{"", {rowLabelLeft, sumRows[i].top, rowLabelWidth, rowLabelHeight}, sumRows[i].moves};
+        const ControlPlace label{"", {rowLabelLeft, sumRows[i].top, rowLabelWidth, rowLabelHeight}, sumRows[i].moves};
+        const Place beside = sumRows[i].beside.In(columns);
+        PutIntoFrame(*sums_[i], *sumFrames_[i], label.In(columns),
+                     FramePlace(beside.top, beside.height, rowLabelLeft, rowLabelWidth));
         const bool shown = columns == 4 || !sumRows[i].onlyFourColumns;
-        for (QWidget* widget : {static_cast<QWidget*>(sums_[i]), static_cast<QWidget*>(sumFrames_[i])}) {
-            widget->setGeometry(Pixels(place.In(columns)));
-            widget->setVisible(shown);
-        }
+        sums_[i]->setVisible(shown);
+        sumFrames_[i]->setVisible(shown);
     }
 }
 
 void RowLabels::ShowTips(bool on) {
     for (int row = 0; row < rowCount; ++row) {
-        const QRect area = RowArea(row, rowLabelLeft, on ? rowLabelWidthWithTips : rowLabelWidth);
-        labels_[row]->setGeometry(area);
-        labelFrames_[row]->setGeometry(area);
+        const int width = on ? rowLabelWidthWithTips : rowLabelWidth;
+        PutIntoFrame(*labels_[row], *labelFrames_[row], LabelPlace(row, rowLabelLeft, width),
+                     FramePlace(boxTops[row], boxLabelHeight, rowLabelLeft, width));
         tips_[row]->setVisible(on);
         tipFrames_[row]->setVisible(on);
     }
 }
 
-void RowLabels::Highlight(int row, bool on) { labels_[row]->SetLook(on ? highlightLook : labelLook); }
+void RowLabels::Highlight(int row, bool on) {
+    labelFrames_[row]->SetFill(on ? colour::highlight : colour::black);
+    labels_[row]->SetLook(on ? highlightLook : labelLook);
+}

@@ -7,14 +7,32 @@
 
 namespace {
 constexpr int gap = 2;
-constexpr int inset = 4;
+constexpr int inset = 3;
+
+// A player's name, which may be as long as the player likes: where it is cut it shows that it is, and tells the whole
+// under a resting mouse.
+class NamePanel final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+        setToolTip(shown == text() ? QString() : text());
+    }
+};
+
+QLabel* MakePanel(int k, QWidget* parent) { return k == 1 ? new NamePanel(parent) : new QLabel(parent); }
 }  // namespace
 
 StatusBarWidget::StatusBarWidget(QWidget* parent) : QWidget(parent) {
     setObjectName("StatusBar1");
     setFont(TableFont(false));
     for (int k = 1; k <= 5; ++k) {
-        panels_[k].label = new QLabel(this);
+        panels_[k].label = MakePanel(k, this);
         panels_[k].label->setObjectName(QString("StatusBar1_%1").arg(k));
         panels_[k].label->setTextFormat(Qt::PlainText);
         panels_[k].label->hide();

@@ -10,6 +10,7 @@ public:
     TableArea(QWidget* window, std::function<void()> afterFirstPicture);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
