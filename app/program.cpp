@@ -2,9 +2,11 @@
 
 #include "app/tick.h"
 
-Program::Program(const ProgramFiles& files, Art& pictures) : art(pictures), scores(files.scores) {
+Program::Program(const ProgramFiles& files, Art& pictures)
+    : art(pictures), sound(files.plugIns, files.data, clock), scores(files.scores) {
     game.session.AppPath = files.data;
     game.settings = store.LoadSettings();
+    window.SetMenuStyle(menuStyle);
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }
 

@@ -3,11 +3,13 @@
 #include "app/desktop_shell.h"
 #include "app/program_files.h"
 #include "app/seeded_random.h"
-#include "core/silent_ports.h"
+#include "core/game.h"
 #include "dialogs/window/qt_dialogs.h"
 #include "kit/qt_clock.h"
 #include "kit/qt_timers.h"
+#include "menus/menu_style.h"
 #include "sound/background_music.h"
+#include "sound/player/sound_loader.h"
 #include "store/settings_store.h"
 #include "store/top_score_files.h"
 #include "table/table_parts.h"
@@ -26,17 +28,17 @@ struct Program {
 
     Art& art;
     EventGate gate;
+    MenuStyle menuStyle{art};
     frmLuckyCup window{gate, art};
     QtTimers timers{gate};
     QtClock clock;
     SeededRandom random;
-    SilentEffects effects;
-    SilentMedia media;
+    SoundLoader sound;
     QtDialogs dialogs{window, gate, art};
     TopScoreFiles scores;
     DesktopShell shell;
     RegistrySettings store;
     TableParts parts;
     BackgroundMusic music;
-    Game game{Ports{window, timers, clock, random, effects, media, dialogs, scores, shell, store, parts}};
+    Game game{Ports{window, timers, clock, random, sound, sound, dialogs, scores, shell, store, parts}};
 };

@@ -15,7 +15,7 @@ EMPTY = ROOT / "build/release/bench/empty_window"
 GAME_TITLE = "^Lucky Cup"
 LOOKS = 16  # rows of the window that are looked at
 
-__all__ = ["EMPTY", "GAME", "Screen", "arguments", "game_place", "is_painted", "start_until_painted"]
+__all__ = ["EMPTY", "GAME", "GAME_TITLE", "Screen", "arguments", "game_place", "is_painted", "start_until_painted"]
 
 
 def arguments(description, **numbers):

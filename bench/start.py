@@ -17,10 +17,17 @@ def memory(pid):
     return [int(re.search(rf"^{name}:\s+(\d+) kB", text, re.M)[1]) / 1024 for name in ("Rss", "Pss")]
 
 
+def knows_sound(pid):
+    """What it takes to play is loaded at the first sound, which no start has."""
+    return re.search(r"/(libSDL|libmpg123|luckycup-sound)", pathlib.Path(f"/proc/{pid}/maps").read_text())
+
+
 def measure(screen, place, command):
     process, seconds = start_until_painted(screen, place, command)
     time.sleep(SETTLING)
     values = [seconds * 1000, *memory(process.pid)]
+    if knows_sound(process.pid):
+        raise RuntimeError(f"{command[0]} has loaded the sound before anything was to sound")
     process.kill()
     process.wait()
     while is_painted(screen, place):

@@ -61,6 +61,8 @@ QPixmap Art::Scaled(const QString& name, QSize size, qreal devicePixelRatio) {
     return picture;
 }
 
+qreal DeviceScale(const QPainter& painter) { return painter.deviceTransform().m11(); }
+
 QRect DeviceArea(const QPainter& painter, const QRectF& area) {
     const QRectF device = painter.deviceTransform().mapRect(area);
     const QPoint topLeft = device.topLeft().toPoint();

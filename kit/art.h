@@ -39,6 +39,10 @@ private:
     std::future<QHash<QString, QImage>> ahead_;
 };
 
+// How many device pixels a painter puts in the place of one: also where a widget is drawn into a picture of another
+// scale than the screen's.
+qreal DeviceScale(const QPainter& painter);
+
 // The area in whole device pixels that a painter covers when it is told to fill this one.
 QRect DeviceArea(const QPainter& painter, const QRectF& area);
 

@@ -60,6 +60,11 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
     toolBar_->setGeometry(Pixels(Place{0, 0, windowWidth, toolbarHeight}));
 }
 
+void frmLuckyCup::SetMenuStyle(QStyle& style) {
+    menuBar_->SetStyle(style);
+    toolBar_->setStyle(&style);
+}
+
 void frmLuckyCup::Load(Game& game) {
     game_ = &game;
     PlaceOnScreen();

@@ -19,6 +19,9 @@ class frmLuckyCup final : public QMainWindow, public TableView {
 public:
     frmLuckyCup(EventGate& gate, Art& art);
 
+    // The look of menu bar, drop-downs and toolbar, which it outlives. Without one they look like any other.
+    void SetMenuStyle(QStyle& style);
+
     // Loads the window for the game that it shows from now on. Once, before it is shown.
     void Load(Game& game);
     void LetGo() { game_ = nullptr; }  // the game ends; nothing that happens to the window reaches it any more

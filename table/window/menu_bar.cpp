@@ -1,11 +1,13 @@
 #include "table/window/menu_bar.h"
 
-#include <QIcon>
+#include <QActionGroup>
+#include <QShortcut>
 #include <span>
 
 #include "core/new_game.h"
 #include "core/redo.h"
 #include "core/undo.h"
+#include "kit/art_icon.h"
 #include "table/commands.h"
 
 namespace {
@@ -83,34 +85,32 @@ QSize PictureSize(QStringView picture) {
     return {16, 16};
 }
 
-void AddEntry(QMenu& menu, const MenuEntry& entry, const CommandRunner& runner) {
+// It marks what is in force: it is checked and stays so, whoever clicks it.
+void MakeChecked(QAction& action) {
+    action.setCheckable(true);
+    action.setChecked(true);
+    (new QActionGroup(&action))->addAction(&action);
+}
+
+void AddEntry(QMenu& menu, const MenuEntry& entry, Art& art, const CommandRunner& runner) {
     QAction* action = entry.kind == Kind::Separator ? menu.addSeparator() : menu.addAction(entry.caption);
     action->setObjectName(entry.name);
     action->setShortcut(QKeySequence(entry.shortcut));
+    action->setIconVisibleInMenu(true);  // also on a desktop that would rather have none
+    const QString picture = entry.picture;
+    if (!picture.isEmpty()) action->setIcon(ArtIcon(art, picture, PictureSize(picture)));
+    if (entry.kind == Kind::Checked) MakeChecked(*action);
     if (entry.kind == Kind::Exit) QObject::connect(action, &QAction::triggered, action, runner.exit);
     if (entry.kind == Kind::Command)
         QObject::connect(action, &QAction::triggered, action,
                          [runner, command = entry.command] { runner.run(command); });
 }
 
-// The pictures are drawn when the menu is opened for the first time.
-void AddPictures(const QMenu& menu, std::span<const MenuEntry> entries, Art& art) {
-    const QList<QAction*> actions = menu.actions();
-    if (!actions.front()->icon().isNull()) return;
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        const QString picture = entries[i].picture;
-        if (picture.isEmpty()) continue;
-        actions[static_cast<qsizetype>(i)]->setIcon(
-            art.Scaled(picture, PictureSize(picture), menu.devicePixelRatioF()));
-    }
-}
-
 void AddMenu(MenuBar& bar, const char* name, const char* caption, std::span<const MenuEntry> entries, Art& art,
              const CommandRunner& runner) {
     QMenu* menu = bar.addMenu(caption);
     menu->setObjectName(name);
-    for (const MenuEntry& entry : entries) AddEntry(*menu, entry, runner);
-    QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, entries, &art] { AddPictures(*menu, entries, art); });
+    for (const MenuEntry& entry : entries) AddEntry(*menu, entry, art, runner);
 }
 }  // namespace
 
@@ -120,6 +120,13 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
     AddMenu(*this, "mnuHelp", "&Help", helpMenu, art, runner);
     undo_ = Entry("mnuUndoUndo");
     redo_ = Entry("mnuUndoRedo");
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { setActiveAction(actions().front()); });
+}
+
+void MenuBar::SetStyle(QStyle& style) {
+    setStyle(&style);
+    for (QMenu* menu : findChildren<QMenu*>()) menu->setStyle(&style);
 }
 
 void MenuBar::ShowChoice(MenuChoice choice, bool on) {

@@ -9,6 +9,9 @@ class MenuBar final : public QMenuBar {
 public:
     MenuBar(QWidget* parent, Art& art, const CommandRunner& runner);
 
+    // The look of the bar and of its drop-downs.
+    void SetStyle(QStyle& style);
+
     void SetUndoEnabled(bool on) { undo_->setEnabled(on); }
     void SetRedoEnabled(bool on) { redo_->setEnabled(on); }
     // Each choice has a line that is checked and does nothing, and one that switches it.

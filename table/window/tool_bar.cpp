@@ -1,6 +1,7 @@
 #include "table/window/tool_bar.h"
 
 #include <QPainter>
+#include <QStyleOption>
 
 #include "core/new_game.h"
 #include "core/redo.h"
@@ -110,6 +111,9 @@ void ToolBar::ShowMusic(bool on) {
 
 void ToolBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    QStyleOption ground;
+    ground.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_PanelToolBar, &ground, &painter, this);
     for (int i = 2; i <= keyCount; ++i) {
         if (buttons_[i]) continue;
         const int x = buttons_[i - 1]->geometry().right() + 1 + separatorWidth / 2;

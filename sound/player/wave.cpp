@@ -1,0 +1,35 @@
+#include "sound/player/wave.h"
+
+#include <SDL.h>
+
+#include <cstring>
+
+namespace {
+
+Samples Convert(const SDL_AudioSpec& spec, const Uint8* wave, Uint32 length) {
+    SDL_AudioCVT plan;
+    if (length == 0 || SDL_BuildAudioCVT(&plan, spec.format, spec.channels, spec.freq, AUDIO_S16SYS, samplesPerFrame,
+                                         framesPerSecond) < 0)
+        return {};
+    std::vector<Uint8> bytes(length * static_cast<std::size_t>(plan.len_mult));
+    std::memcpy(bytes.data(), wave, length);
+    plan.buf = bytes.data();
+    plan.len = static_cast<int>(length);
+    plan.len_cvt = plan.len;
+    if (plan.needed && SDL_ConvertAudio(&plan) < 0) return {};
+    Samples samples(static_cast<std::size_t>(plan.len_cvt) / sizeof(std::int16_t));
+    if (!samples.empty()) std::memcpy(samples.data(), bytes.data(), samples.size() * sizeof(std::int16_t));
+    return samples;
+}
+
+}  // namespace
+
+Samples LoadWave(const std::string& path) {
+    SDL_AudioSpec spec;
+    Uint8* wave = nullptr;
+    Uint32 length = 0;
+    if (!SDL_LoadWAV(path.c_str(), &spec, &wave, &length)) return {};
+    Samples samples = Convert(spec, wave, length);
+    SDL_FreeWAV(wave);
+    return samples;
+}
