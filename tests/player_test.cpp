@@ -332,7 +332,8 @@ struct SoundingProgram : Recording {
     }
 
     Art art;
-    std::unique_ptr<Program> program = std::make_unique<Program>(FindProgramFiles(Folder().c_str(), ""), art);
+    std::unique_ptr<Program> program =
+        std::make_unique<Program>(ProgramFiles{Folder(), Folder(), Folder() + "scores/"}, art);
     QTimer answerer;
 };
 
