@@ -37,6 +37,5 @@ int Main(QApplication& app) {
     }
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(Files(), art);
-    program.ShowMainWindow();
-    return app.exec();
+    return program.Start() ? app.exec() : 0;
 }

@@ -1,12 +1,16 @@
 #include "app/program.h"
 
 #include "app/tick.h"
+#include "core/start.h"
 
 Program::Program(const ProgramFiles& files, Art& pictures)
-    : art(pictures), sound(files.plugIns, files.data, clock), scores(files.scores) {
+    : art(pictures),
+      sound(files.plugIns, files.data, clock),
+      scores(files.scores),
+      shell(files.data, files.scores, pictures) {
     game.session.AppPath = files.data;
-    game.settings = store.LoadSettings();
     window.SetMenuStyle(menuStyle);
+    dialogs.SetShowMainWindow([this] { ShowMainWindow(); });
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
 }
 
@@ -17,3 +21,5 @@ void Program::ShowMainWindow() {
     window.Load(game);
     window.show();
 }
+
+bool Program::Start() { return ::Start(game); }

@@ -25,6 +25,8 @@ struct Program {
 
     // Loads the main window and shows it; once.
     void ShowMainWindow();
+    // Loads the settings and opens the first window. False: the player has left it, and no window is open.
+    bool Start();
 
     Art& art;
     EventGate gate;

@@ -11,9 +11,10 @@ std::string Folder(const QString& path) {
 }
 }  // namespace
 
+ProgramFiles FilesInOneFolder(const std::string& folder) { return {folder, folder, ScoresFolder(folder)}; }
+
 ProgramFiles FindProgramFiles(const QString& programFolder, const QString& userFolder) {
-    const std::string own = Folder(programFolder);
-    if (QFileInfo::exists(programFolder + "/base.cur")) return {own, own, ScoresFolder(own)};
+    if (QFileInfo::exists(programFolder + "/base.cur")) return FilesInOneFolder(Folder(programFolder));
 
     const std::string scores = ScoresFolder(Folder(userFolder));
     QDir().mkpath(QString::fromStdString(scores));

@@ -10,6 +10,9 @@ struct ProgramFiles {
     std::string scores;
 };
 
+// All in one folder, which ends in the separator.
+ProgramFiles FilesInOneFolder(const std::string& folder);
+
 // Where the files lie for a program in programFolder, given the user's own data folder.
 //
 // A program with its data beside it is whole in itself: nothing it needs or writes lies elsewhere. One that is

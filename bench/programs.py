@@ -13,6 +13,7 @@ from screen import BLACK, Screen, wait_for  # noqa: E402 (found by the line abov
 GAME = ROOT / "build/release/LuckyCup/LuckyCup"
 EMPTY = ROOT / "build/release/bench/empty_window"
 GAME_TITLE = "^Lucky Cup"
+TABLE_FIRST = "ShowDialog=False\nShowSplash=False\n"
 LOOKS = 16  # rows of the window that are looked at
 
 __all__ = ["EMPTY", "GAME", "GAME_TITLE", "Screen", "arguments", "game_place", "is_painted", "start_until_painted"]
@@ -31,7 +32,7 @@ def arguments(description, **numbers):
 
 def game_place(screen):
     """x, y, width and height of the game's window, from one start, which also warms the caches."""
-    game = screen.start(GAME)
+    game = screen.start(GAME, home=screen.new_home(TABLE_FIRST))
     window = wait_for("the game's window", lambda: screen.find_window(GAME_TITLE))
     place = screen.place(window)
     game.kill()
@@ -54,8 +55,9 @@ def is_painted(screen, place):
 
 def start_until_painted(screen, place, command):
     """Starts the program on the black screen; returns it with the seconds that passed until its first picture."""
+    home = screen.new_home(TABLE_FIRST)
     begin = time.perf_counter()
-    process = screen.start(*command)
+    process = screen.start(*command, home=home)
 
     def shows():
         if process.poll() is not None:

@@ -70,12 +70,17 @@ struct SilentMedia : MediaService {
 
 struct SilentDialogs : Dialogs {  // every window closes as it opens, every question is answered with OK
     Answer ShowMessage(const Message&) override { return Answer::Ok; }
+    void frmWelcome(Game&) override {}
     void frmEndGame(Game&) override {}
     void frmTheWinerIs(Game&) override {}
     void frmScores2(Game&) override {}
     void frmOptions(Game&) override {}
     void frmQuickStart(Game&) override {}
     void frmAbout(Game&) override {}
+    void frmSplash(Game&) override {}
+    void frmLuckyCup(Game&) override {}
+    void UnloadQuickStart() override {}
+    void UnloadSplash() override {}
 };
 
 struct SilentScores : TopScores {  // no file, and no score gets in

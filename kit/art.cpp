@@ -24,7 +24,10 @@ QImage Render(const QString& name, QSize size) {
 
 Art::Art() { TakeResources(); }
 
+QSize Art::ToldSize(const QString& name) { return QSvgRenderer(":/art/" + name + ".svg").viewBoxF().size().toSize(); }
+
 void Art::RenderAhead(std::vector<Wanted> pictures) {
+    for (const auto& [name, size] : pictures) wantedAhead_.insert(KeyOf(name, size));
     ahead_ = std::async(std::launch::async, [pictures = std::move(pictures)] {
         QHash<QString, QImage> images;
         for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
@@ -32,16 +35,18 @@ void Art::RenderAhead(std::vector<Wanted> pictures) {
     });
 }
 
-void Art::TakeRenderedAhead() {
-    if (!ahead_.valid()) return;
+// Only who wants one of them waits for them.
+void Art::TakeRenderedAhead(const QString& key) {
+    if (!ahead_.valid() || !wantedAhead_.contains(key)) return;
     const QHash<QString, QImage> images = ahead_.get();
     for (auto image = images.begin(); image != images.end(); ++image)
         rendered_[image.key()] = QPixmap::fromImage(image.value());
 }
 
 const QPixmap& Art::Picture(const QString& name, QSize devicePixels) {
-    TakeRenderedAhead();
-    QPixmap& picture = rendered_[KeyOf(name, devicePixels)];
+    const QString key = KeyOf(name, devicePixels);
+    TakeRenderedAhead(key);
+    QPixmap& picture = rendered_[key];
     if (picture.isNull()) picture = QPixmap::fromImage(Render(name, devicePixels));
     return picture;
 }

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QPainter>
 #include <QPixmap>
+#include <QSet>
 #include <QString>
 #include <future>
 #include <vector>
@@ -21,6 +22,9 @@ public:
     // Begins to render pictures that will be wanted soon, beside what else there is to do. At most once.
     void RenderAhead(std::vector<Wanted> pictures);
 
+    // The size that the picture was drawn for, in pixels; empty when there is no such picture.
+    static QSize ToldSize(const QString& name);
+
     // The picture with this name, such as "die_free_3", filling so many device pixels. The reference holds until the
     // next call.
     const QPixmap& Picture(const QString& name, QSize devicePixels);
@@ -33,9 +37,10 @@ public:
     QPixmap Scaled(const QString& name, QSize size, qreal devicePixelRatio);
 
 private:
-    void TakeRenderedAhead();
+    void TakeRenderedAhead(const QString& key);
 
     QHash<QString, QPixmap> rendered_;
+    QSet<QString> wantedAhead_;
     std::future<QHash<QString, QImage>> ahead_;
 };
 

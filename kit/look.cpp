@@ -1,6 +1,7 @@
 #include "kit/look.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPalette>
 #include <QToolTip>
 
@@ -49,4 +50,10 @@ void ApplyLook() {
     QToolTip::setFont(TableFont(false));
     QCoreApplication::setApplicationName("LuckyCup");
     QGuiApplication::setDesktopFileName("luckycup");
+}
+
+void SetGameIcon(Art& art) {
+    QIcon icon;
+    for (int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(art.Scaled("icon", {size, size}, 1));
+    QApplication::setWindowIcon(icon);
 }

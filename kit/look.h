@@ -1,6 +1,10 @@
 #pragma once
 
+#include "kit/art.h"
+
 // The program brings its own style and light colours, so that it looks the same on a light and on a dark desktop.
 
 void PrepareLook();  // before the application object is made
 void ApplyLook();    // after it
+
+void SetGameIcon(Art& art);  // of every window

@@ -19,7 +19,7 @@ using OptionsVisit = std::function<void(Game&, OptionsForm&)>;
 
 // Modal windows that run their load and close at once. What asks something takes the next queued answer; with an empty
 // queue that is Ok or Finish.
-class HeadlessDialogs final : public SilentDialogs {
+class HeadlessDialogs : public SilentDialogs {
 public:
     explicit HeadlessDialogs(EventLog& log) : log_(log) {}
 

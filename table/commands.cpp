@@ -2,14 +2,10 @@
 
 #include "core/effects.h"
 #include "core/hints.h"
+#include "core/links.h"
 #include "core/music.h"
 #include "core/show.h"
 #include "core/timing.h"
-
-namespace {
-constexpr const char* webSite = "https://luckycup.example/";
-constexpr const char* mailAddress = "mailto:lucky@luckycup.example";
-}  // namespace
 
 void mnuHintsByRequest2_Click(Game& game) {
     game.session.HintsOn = false;
@@ -95,6 +91,3 @@ void tbBGmusic_Click(Game& game) {
     else
         mnuMusicOn2_Click(game);
 }
-
-void OpenWebSite(Shell& shell) { shell.Open(webSite); }
-void OpenMailClient(Shell& shell) { shell.Open(mailAddress); }

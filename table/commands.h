@@ -21,6 +21,3 @@ void mnuContact_Click(Game& game);
 void tbHint_Click(Game& game);
 void tbSound_Click(Game& game);
 void tbBGmusic_Click(Game& game);
-
-void OpenWebSite(Shell& shell);
-void OpenMailClient(Shell& shell);

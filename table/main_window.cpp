@@ -33,7 +33,9 @@ bool Form_QueryUnload(Game& game) {
         if (answer == Answer::Cancel) return false;
     }
     game.store.SaveSettings(game.settings);
+    game.dialogs.UnloadSplash();
     game.shell.CloseHelp();
+    game.dialogs.UnloadQuickStart();
     if (game.settings.BGMusicEnabled) StopMusic(game);
     CloseSong(game);
     return true;

@@ -332,8 +332,7 @@ struct SoundingProgram : Recording {
     }
 
     Art art;
-    std::unique_ptr<Program> program =
-        std::make_unique<Program>(ProgramFiles{Folder(), Folder(), Folder() + "scores/"}, art);
+    std::unique_ptr<Program> program = std::make_unique<Program>(FilesInOneFolder(Folder()), art);
     QTimer answerer;
 };
 

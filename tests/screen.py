@@ -28,8 +28,9 @@ class Screen:
         self._folder = tempfile.TemporaryDirectory(prefix="lucky-cup-")
         self._programs = []
         read, write = os.pipe()
+        # A server that resets when its last window has gone refuses a program that starts at that moment.
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self._folder.name],
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self._folder.name],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as answer:
@@ -55,9 +56,18 @@ class Screen:
         self._buffer.close()
         self._folder.cleanup()
 
-    def start(self, *command, stderr=None):
-        """Starts a program as a new user would see it, but for the cache, which holds the list of fonts."""
+    def new_home(self, settings=""):
+        """The folder of a new user, but for the cache, which holds the list of fonts; with these settings, if any."""
         home = pathlib.Path(tempfile.mkdtemp(dir=self._folder.name))
+        if settings:
+            store = home / "config/LuckyCup/LuckyCup2.2.conf"
+            store.parent.mkdir(parents=True)
+            store.write_text("[General]\nNumberOfDice=5\n" + settings)
+        return home
+
+    def start(self, *command, stderr=None, home=None):
+        """Starts a program for the user of this home, or for a new one."""
+        home = home or self.new_home()
         environment = {**self._environment, "HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"),
                        "XDG_CACHE_HOME": self._folder.name, "XDG_RUNTIME_DIR": str(home), "TMPDIR": str(home)}
         process = subprocess.Popen([*map(str, command)], env=environment, stdin=subprocess.DEVNULL, stderr=stderr)
@@ -68,9 +78,12 @@ class Screen:
         result = subprocess.run(["xdotool", *arguments], env=self._environment, text=True, capture_output=True)
         return result.stdout
 
-    def find_window(self, title):
+    def click(self, x, y):
+        self.xdotool("mousemove", str(x), str(y), "click", "1")
+
+    def find_window(self, title, by="--name"):
         """The first visible window whose title matches, or None."""
-        return next(iter(self.xdotool("search", "--onlyvisible", "--name", title).split()), None)
+        return next(iter(self.xdotool("search", "--onlyvisible", by, title).split()), None)
 
     def place(self, window):
         """x, y, width and height in pixels."""

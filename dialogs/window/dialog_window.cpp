@@ -4,25 +4,32 @@
 #include "kit/pointers.h"
 #include "kit/twips.h"
 
-DialogWindow::DialogWindow(QWidget& owner, const char* name, const char* caption, int widthInTwips, int heightInTwips)
-    : QDialog(&owner), owner_(owner) {
+DialogWindow::DialogWindow(QWidget* owner, const char* name, const char* caption, int widthInTwips, int heightInTwips)
+    : QDialog(owner) {
     setObjectName(name);
     setWindowTitle(caption);
     setFixedSize(Pixels(widthInTwips), Pixels(heightInTwips));
     setFont(TableFont(false));
 }
 
-void DialogWindow::PlaceOverOwner(int twipsBelow) {
-    // Its own frame is not known before it is shown; it is as thick as that of the owner.
-    const QRect outer = owner_.frameGeometry();
-    const QSize frame = size() + outer.size() - owner_.size();
+void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share) {
+    // Its own frame is not known before it is shown; it is as thick as that of the other window.
+    const QRect outer = window.frameGeometry();
+    const QSize frame = size() + outer.size() - window.size();
     move(outer.left() + (outer.width() - frame.width()) / 2,
-         outer.top() + (outer.height() - frame.height()) / 2 + Pixels(twipsBelow));
+         outer.top() + static_cast<int>((outer.height() - frame.height()) * share) + Pixels(twipsBelow));
 }
 
 void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {
     SetBasePointer(*this, QString::fromStdString(game.session.AppPath));
     for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
+}
+
+void BringToFront(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
 QString FittedText(const QString& text, const QString& tail, const QFont& font, int width) {

@@ -9,15 +9,20 @@
 // the window that owns them.
 class DialogWindow : public QDialog {
 public:
-    DialogWindow(QWidget& owner, const char* name, const char* caption, int widthInTwips, int heightInTwips);
+    DialogWindow(QWidget& owner, const char* name, const char* caption, int widthInTwips, int heightInTwips)
+        : DialogWindow(&owner, name, caption, widthInTwips, heightInTwips) {}
+    // Without an owner the window stands by itself.
+    DialogWindow(QWidget* owner, const char* name, const char* caption, int widthInTwips, int heightInTwips);
 
     // Centre upon centre, and so far below.
-    void PlaceOverOwner(int twipsBelow = 0);
+    void PlaceOverOwner(int twipsBelow = 0) { PlaceOver(*parentWidget(), twipsBelow); }
+    // The same over any window. share: how much of the difference in height lies above this window.
+    void PlaceOver(const QWidget& window, int twipsBelow = 0, double share = 0.5);
     void SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable);
-
-private:
-    QWidget& owner_;
 };
+
+// Opens the window, or brings the open one to the front.
+void BringToFront(QWidget& window);
 
 // The text, cut before its tail where it is too wide for the width in pixels.
 QString FittedText(const QString& text, const QString& tail, const QFont& font, int width);

@@ -59,7 +59,8 @@ frmOptions::frmOptions(QWidget& owner, Game& game, Art& art)
     all->addLayout(MakeButtons(art));
     Show();
     Connect();
-    PlaceOverOwner();
+    constexpr double middle = 0.5, lowerOverWelcome = 1 / 1.5;
+    PlaceOver(owner, 0, game.session.OpenedFromGame ? middle : lowerOverWelcome);
     (form_.optYahtzee ? optYahtzee_ : optYamb_)->setFocus();
 }
 

@@ -1,6 +1,5 @@
 #include "table/window/frm_lucky_cup.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
@@ -10,6 +9,7 @@
 #include "core/hints.h"
 #include "core/turn.h"
 #include "core/two_players.h"
+#include "kit/look.h"
 #include "kit/pointers.h"
 #include "table/main_window.h"
 #include "table/window/tool_tips.h"
@@ -76,9 +76,7 @@ void frmLuckyCup::SetPointersAndIcon() {
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
     board_.SetPointer(hand);
     tray_.SetPointers(hand, cursor());
-    QIcon icon;
-    for (int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(art_.Scaled("icon", {size, size}, 1));
-    QApplication::setWindowIcon(icon);
+    SetGameIcon(art_);
 }
 
 void frmLuckyCup::PlaceOnScreen() {
@@ -215,6 +213,6 @@ void frmLuckyCup::changeEvent(QEvent* event) {
 
 void frmLuckyCup::closeEvent(QCloseEvent* event) {
     bool leaves = false;
-    if (!gate_.Busy()) Run([&](Game& game) { leaves = Form_QueryUnload(game); });
+    if (isEnabled() && !gate_.Busy()) Run([&](Game& game) { leaves = Form_QueryUnload(game); });
     event->setAccepted(leaves);
 }

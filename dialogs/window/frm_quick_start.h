@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QTextBrowser>
+
+#include "dialogs/window/dialog_window.h"
+
+// The guide, centred over a window. With an owner it can be shown modal; without one it stands by itself.
+class frmQuickStart final : public DialogWindow {
+public:
+    frmQuickStart(const QWidget& over, QWidget* owner, const Game& game, Art& art);
+
+private:
+    void Print();
+
+    Art& art_;
+    QTextBrowser* RichTextBox1_;
+};

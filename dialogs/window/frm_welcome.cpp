@@ -1,0 +1,75 @@
+#include "dialogs/window/frm_welcome.h"
+
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include "dialogs/window/title_texts.h"
+#include "kit/controls.h"
+#include "kit/look.h"
+
+namespace {
+constexpr int left = 352, right = 5752;  // the edges of the picture, to which the rest keeps
+constexpr int buttonWidth = 1260, buttonHeight = 480, buttonStep = 1380, buttonTop = 3705;
+constexpr Place picturePlace{left, 210, right - left, 2250};
+constexpr Place checkPlace{left, 4500, right - left - buttonStep, 255};
+constexpr int exitTop = checkPlace.top + (checkPlace.height - buttonHeight) / 2;
+
+constexpr Place InRow(int k) { return {left + k * buttonStep, buttonTop, buttonWidth, buttonHeight}; }
+}  // namespace
+
+frmWelcome::frmWelcome(Game& game, Art& art)
+    : DialogWindow(nullptr, "frmWelcome", "Welcome to LuckyCup 2.2.2", 6105, 5260),
+      game_(game),
+      Check1_(new QCheckBox("Don't show this dialog next time")) {
+    SetGameIcon(art);
+    setWindowModality(Qt::WindowModal);  // the help may stand beside it
+    (new Picture("Image1", this, art, "welcome"))->setGeometry(Pixels(picturePlace));
+    AddTitle(*this, {left, 2580, 3450, 390}, Qt::AlignLeft);
+    AddVersion(*this, {left + 3450, 2580, right - left - 3450, 390}, Qt::AlignRight);
+    const Links links = AddLinks(*this, game, {left, 3060, 900, 255});
+    QPushButton* play = AddButton("cmdPlay", "&Play", InRow(0), &frmWelcome::Play);
+    play->setDefault(true);
+    play->setFont(TableFont(true));
+    QPushButton* options = AddButton("cmdOptions", "&Options", InRow(1), &frmWelcome::Options);
+    QPushButton* guide = AddButton("cmdQuickStart", "&Quick Start", InRow(2), &frmWelcome::QuickStart);
+    QPushButton* scores = AddButton("cmdScores", "&Top Scores", InRow(3), &frmWelcome::TopScores);
+    Check1_->setParent(this);
+    Check1_->setObjectName("Check1");
+    Check1_->setGeometry(Pixels(checkPlace));
+    connect(Check1_, &QCheckBox::toggled, this, [this](bool on) { Check1_Change(game_, form_, on); });
+    QPushButton* exit =
+        AddButton("cmdExit", "&Exit", {InRow(3).left, exitTop, buttonWidth, buttonHeight}, &frmWelcome::Exit);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [&game] { game.shell.ShowHelpContents(); });
+    SetPointers(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
+    play->setFocus();
+    PlaceOnScreen();
+}
+
+QPushButton* frmWelcome::AddButton(const char* name, const char* caption, const Place& place,
+                                   void (frmWelcome::*click)()) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setGeometry(Pixels(place));
+    connect(button, &QPushButton::clicked, this, click);
+    return button;
+}
+
+void frmWelcome::PlaceOnScreen() {
+    const QRect area = screen()->geometry();
+    move(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - height()) / 2);
+}
+
+void frmWelcome::Play() {
+    cmdPlay_Click(game_);
+    accept();
+}
+
+void frmWelcome::Options() {
+    cmdOptions_Click(game_, form_);
+    Check1_->setChecked(form_.Check1);
+}
+
+void frmWelcome::QuickStart() { game_.dialogs.frmQuickStart(game_); }
+void frmWelcome::TopScores() { game_.dialogs.frmScores2(game_); }
+void frmWelcome::Exit() { reject(); }

@@ -1,0 +1,37 @@
+#include "dialogs/window/link_label.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+LinkLabel::LinkLabel(const char* name, QWidget* parent, const char* text, const std::string& target, const QRect& place)
+    : QAbstractButton(parent) {
+    setObjectName(name);
+    setText(text);
+    setToolTip(QString::fromStdString(target));
+    setAccessibleDescription("Opens " + toolTip());
+    setFocusPolicy(Qt::StrongFocus);
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    setFont(underlined);
+    constexpr int focusRoom = 2;
+    setGeometry(place.left() - focusRoom, place.top(), fontMetrics().horizontalAdvance(text) + 2 * focusRoom,
+                place.height());
+}
+
+void LinkLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(isDown() ? QPalette::LinkVisited : QPalette::Link));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QAbstractButton>
+
+// A text that leads somewhere, as wide as it reads. Reached by Tab, followed by a click, Enter or space; its tool tip
+// says where it leads.
+class LinkLabel final : public QAbstractButton {
+public:
+    // place: the left end of the line, and its height; in pixels
+    LinkLabel(const char* name, QWidget* parent, const char* text, const std::string& target, const QRect& place);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
