@@ -5,7 +5,6 @@
 #include <QStandardPaths>
 
 #include "app/program.h"
-#include "core/program_folder.h"
 #include "kit/message_box.h"
 #include "table/window/first_pictures.h"
 
@@ -21,8 +20,9 @@ bool RunsAlready(QLockFile& lock) {
     return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
 }
 
-std::string ProgramFolder() {
-    return AsFolder(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString());
+ProgramFiles Files() {
+    return FindProgramFiles(QCoreApplication::applicationDirPath(),
+                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
 }  // namespace
@@ -36,6 +36,6 @@ int Main(QApplication& app) {
         return 0;
     }
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
-    Program program(ProgramFolder(), art);
+    Program program(Files(), art);
     return program.Start() ? app.exec() : 0;
 }
