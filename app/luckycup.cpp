@@ -1,16 +1,16 @@
 #include "app/luckycup.h"
 
-#include <QDir>
+#include <QStandardPaths>
 
 #include "app/program.h"
 #include "app/single_instance.h"
-#include "core/program_folder.h"
 #include "kit/message_box.h"
 #include "table/window/first_pictures.h"
 
 namespace {
-std::string ProgramFolder() {
-    return AsFolder(QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString());
+ProgramFiles Files() {
+    return FindProgramFiles(QCoreApplication::applicationDirPath(),
+                            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 }  // namespace
 
@@ -23,6 +23,6 @@ int Main(QApplication& app) {
         return 0;
     }
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
-    Program program(ProgramFolder(), art);
+    Program program(Files(), art);
     return program.Start() ? app.exec() : 0;
 }

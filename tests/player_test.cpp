@@ -345,7 +345,7 @@ struct SoundingProgram : Recording {
     }
 
     Art art;
-    std::unique_ptr<Program> program = std::make_unique<Program>(Folder(), art);
+    std::unique_ptr<Program> program = std::make_unique<Program>(FilesInOneFolder(Folder()), art);
     QTimer answerer;
 };
 

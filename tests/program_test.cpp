@@ -33,7 +33,7 @@ struct RunningProgram {
 
     QTemporaryDir folder;
     Art art;
-    Program program{Prepared(folder.path()).toStdString(), art};
+    Program program{FilesInOneFolder(Prepared(folder.path()).toStdString()), art};
     Game& game = program.game;
     QTimer answerer;  // says yes to every question
 };
