@@ -4,6 +4,7 @@
 
 #include "app/program.h"
 #include "app/single_instance.h"
+#include "kit/look.h"
 #include "kit/message_box.h"
 #include "table/window/first_pictures.h"
 
@@ -18,6 +19,7 @@ int Main(QApplication& app) {
     Art art;
     FileLock lock;
     if (!TakeOnlyInstance(lock)) {
+        SetGameIcon(art);
         ShowMessageBox(nullptr, art,
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;

@@ -14,7 +14,8 @@ std::string Folder(const QString& path) {
 ProgramFiles FilesInOneFolder(const std::string& folder) { return {folder, folder, ScoresFolder(folder)}; }
 
 ProgramFiles FindProgramFiles(const QString& programFolder, const QString& userFolder) {
-    if (QFileInfo::exists(programFolder + "/base.cur")) return FilesInOneFolder(Folder(programFolder));
+    const bool installed = QFileInfo(programFolder + "/" LUCKYCUP_DATA).isDir();
+    if (!installed || QFileInfo::exists(programFolder + "/base.cur")) return FilesInOneFolder(Folder(programFolder));
 
     const std::string scores = ScoresFolder(Folder(userFolder));
     QDir().mkpath(QString::fromStdString(scores));

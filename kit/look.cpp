@@ -46,7 +46,10 @@ void ApplyLook() {
     for (const RoleColour& entry : disabledColours)
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
+    // The menus keep the desktop's own font, which the next line would take from them.
+    const QFont menuFont = QApplication::font("QMenu");
     QApplication::setFont(TableFont(false));
+    for (const char* menu : {"QMenu", "QMenuBar"}) QApplication::setFont(menuFont, menu);
     QToolTip::setFont(TableFont(false));
     QCoreApplication::setApplicationName("LuckyCup");
     QGuiApplication::setDesktopFileName("luckycup");

@@ -14,6 +14,7 @@ namespace {
 class ProgramFilesTest : public testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(QDir(root.path()).mkpath("usr/games")); }
+    void Install() { ASSERT_TRUE(QDir(root.path()).mkpath("usr/share/games/luckycup")); }
     ProgramFiles Find() { return FindProgramFiles(Path("usr/games"), Path("home/.local/share/LuckyCup")); }
     QString Path(const char* name) { return root.filePath(name); }
     std::string Folder(const char* name) { return Path(name).toStdString() + "/"; }
@@ -22,6 +23,8 @@ protected:
 };
 
 TEST_F(ProgramFilesTest, ProgramWithItsDataIsWholeInItself) {
+    EXPECT_EQ(Find().data, Folder("usr/games")) << "its pointer is missing";
+    Install();
     ASSERT_TRUE(QFile(Path("usr/games/base.cur")).open(QIODevice::WriteOnly));
     const ProgramFiles files = Find();
     EXPECT_EQ(files.data, Folder("usr/games"));
@@ -33,6 +36,7 @@ TEST_F(ProgramFilesTest, ProgramWithItsDataIsWholeInItself) {
 }
 
 TEST_F(ProgramFilesTest, InstalledProgramKeepsScoresWithTheUser) {
+    Install();
     for (const char* start : {"first", "second"}) {
         const ProgramFiles files = Find();
         EXPECT_EQ(files.data, Folder("usr/share/games/luckycup")) << start;
@@ -44,6 +48,7 @@ TEST_F(ProgramFilesTest, InstalledProgramKeepsScoresWithTheUser) {
 }
 
 TEST_F(ProgramFilesTest, UserWithoutRoomForScoresHasNone) {
+    Install();
     ASSERT_TRUE(QFile(Path("home")).open(QIODevice::WriteOnly));
     const ProgramFiles files = Find();
     EXPECT_EQ(files.scores, Folder("home/.local/share/LuckyCup/scores"));

@@ -123,7 +123,7 @@ DiceTray::Events frmLuckyCup::TrayEvents() {
 }
 
 CommandRunner frmLuckyCup::Commands() {
-    return {.run = [this](GameCommand command) { Run(command); }, .exit = [this] { close(); }};
+    return {.run = [this](GameCommand command) { Run(command); }, .exit = [this] { AskToLeave(); }};
 }
 
 void frmLuckyCup::SetBoxText(ScoreColumn column, int row, const std::string& text) {
@@ -212,7 +212,18 @@ void frmLuckyCup::changeEvent(QEvent* event) {
 }
 
 void frmLuckyCup::closeEvent(QCloseEvent* event) {
-    bool leaves = false;
-    if (isEnabled() && !gate_.Busy()) Run([&](Game& game) { leaves = Form_QueryUnload(game); });
-    event->setAccepted(leaves);
+    // A question that is asked in the middle of closing could be left unanswered by closing once more.
+    event->setAccepted(game_ == nullptr);
+    if (game_ && isEnabled()) QMetaObject::invokeMethod(this, &frmLuckyCup::AskToLeave, Qt::QueuedConnection);
+}
+
+void frmLuckyCup::AskToLeave() {
+    if (std::exchange(leaving_, true)) return;
+    Run([this](Game& game) {
+        leaving_ = Form_QueryUnload(game);
+        if (!leaving_) return;
+        LetGo();
+        gate_.Shut();
+        close();
+    });
 }

@@ -84,6 +84,7 @@ private:
     Board::Events BoardEvents();
     DiceTray::Events TrayEvents();
     CommandRunner Commands();
+    void AskToLeave();
     void PlaceOnScreen();
     void SetPointersAndIcon();
     GlyphColumns& Counter(CounterPicture picture) { return counters_[picture]; }
@@ -102,4 +103,5 @@ private:
     MenuBar* menuBar_;
     StatusBarWidget* statusBar_;
     bool minimized_ = false;
+    bool leaving_ = false;  // the player is being asked, or has left
 };
