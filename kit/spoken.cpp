@@ -35,7 +35,8 @@ private:
     }
 };
 
-// A button is pressed in one step and only while a player could press it.
+// A button is pressed only while a player could press it. The screen reader does not wait for what comes of it, which
+// may be a dialog.
 class SpokenButton final : public SpokenWidget {
 public:
     using SpokenWidget::SpokenWidget;
@@ -66,7 +67,11 @@ public:
 
     void doAction(const QString& name) override {
         if (name != Action()) return QAccessibleWidget::doAction(name);
-        if (Button().isVisible()) Button().click();
+        QAbstractButton* button = &Button();
+        const auto click = [button] {
+            if (button->isVisible()) button->click();
+        };
+        QMetaObject::invokeMethod(button, click, Qt::QueuedConnection);
     }
 
     QStringList keyBindingsForAction(const QString&) const override { return {}; }

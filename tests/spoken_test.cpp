@@ -12,7 +12,8 @@ QString NameOf(QObject& object) { return Spoken(object).text(QAccessible::Name);
 void Press(QObject& object) {
     QAccessibleActionInterface& actions = *Spoken(object).actionInterface();
     for (const QString& name : actions.actionNames())
-        if (name == actions.pressAction() || name == actions.toggleAction()) return actions.doAction(name);
+        if (name == actions.pressAction() || name == actions.toggleAction()) actions.doAction(name);
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
 }
 
 // What holds others and says nothing itself, and the parts that the toolkit makes.

@@ -62,7 +62,6 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
       menuBar_(new MenuBar(this, art_, Commands())),
       statusBar_(new StatusBarWidget(table_)) {
     setObjectName("frmLuckyCup");
-    MakeControlsSpeak();
     Say(*table_, "Table");
     score_->setToolTip(counterTip);
     setMenuBar(menuBar_);
