@@ -49,6 +49,7 @@ void ApplyLook() {
     QApplication::setFont(TableFont(false));
     QToolTip::setFont(TableFont(false));
     QCoreApplication::setApplicationName("LuckyCup");
+    QGuiApplication::setDesktopFileName("luckycup");
 }
 
 void SetGameIcon(Art& art) {

@@ -33,7 +33,6 @@ std::string Written(const QRect& area) {
 
 QString Of(const QString& array, int i) { return array + '_' + QString::number(i); }
 
-// The control that a row of a table stands for is there in both layouts; up: by so much it is higher in the second.
 void AddBoard(Table& table, bool four) {
     constexpr int tops[] = {630, 885, 1140, 1395, 1650, 1905, 2520, 2775, 3390, 3645, 3900, 4155, 4410};
     constexpr std::pair<const char*, int> columns[] = {{"Down", 2205}, {"Up", 2805}, {"Rand", 3405}, {"Oblg", 4005}};
@@ -62,6 +61,7 @@ void AddRowLabels(Table& table, bool four, bool tips) {
                                {"Label2", 30, four ? 4425 : 4175, 1570, 220}});
 }
 
+// up: by so much what lies below the board is higher in the layout of one column.
 void AddDice(Table& table, bool six, int up) {
     constexpr int tops[] = {5655, 5655, 5655, 6575, 6575, 6575};
     constexpr int leftsOfSix[] = {245, 1150, 2070, 245, 1150, 2070};

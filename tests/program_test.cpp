@@ -27,13 +27,13 @@ struct RunningProgram {
 
     static QString Prepared(const QString& folder) {
         QDir(folder).mkdir("scores");
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
         return folder + '/';
     }
 
     QTemporaryDir folder;
     Art art;
-    Program program{Prepared(folder.path()).toStdString(), art};
+    Program program{FilesInOneFolder(Prepared(folder.path()).toStdString()), art};
     Game& game = program.game;
     QTimer answerer;  // says yes to every question
 };

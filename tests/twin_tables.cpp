@@ -137,7 +137,7 @@ void ClickIn(QWidget& dialog, const QString& name) {
     QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(10, button.height() / 2));
 }
 
-// What stands for a setting in frmOptions. checkedAt: the value at which the button is checked.
+// What stands for a setting in frmOptions; with a value, the button that chooses it.
 struct OptionsControl {
     std::string_view setting, value;
     const char* name;

@@ -11,7 +11,7 @@ public:
 
     explicit TwinTables(Hands hands = Hands::Both);
 
-    void Line(const std::string& text);  // of the script; a line of the window's own faults fails the test
+    void Line(const std::string& text);  // of the script; what differs then fails the test
     bool Alike() const { return alike_; }
 
     ScriptTable script;
