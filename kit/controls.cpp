@@ -2,6 +2,7 @@
 
 #include <QTextOption>
 #include <algorithm>
+#include <utility>
 
 QFont TableFont(bool bold, int pixels) {
     QFont font;
@@ -101,12 +102,16 @@ void PictureButton::SetLooks(const Looks& looks) {
     update();
 }
 
+void PictureButton::SetMarked(std::optional<bool> on) {
+    if (std::exchange(marked_, on) != on) update();
+}
+
 void PictureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QString& wanted = !isEnabled()   ? looks_.disabled
-                            : isDown()     ? looks_.pressed
-                            : underMouse() ? looks_.underMouse
-                                           : looks_.plain;
+    const QString& wanted = !isEnabled()                     ? looks_.disabled
+                            : isDown()                       ? looks_.pressed
+                            : marked_.value_or(underMouse()) ? looks_.underMouse
+                                                             : looks_.plain;
     art_.Draw(painter, rect(), wanted.isEmpty() ? looks_.plain : wanted);
 }
 

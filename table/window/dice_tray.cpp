@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 
+#include "kit/spoken.h"
 #include "table/window/tool_tips.h"
 
 namespace {
@@ -11,8 +12,8 @@ PictureButton::Looks FreeLooks(int face) { return {.plain = Index("die_free", fa
 PictureButton::Looks RollingLooks(int face) { return {.plain = Index("die_roll", face)}; }
 PictureButton::Looks HeldLooks(int face) { return {.plain = Index("die_held", face)}; }
 
-QString Said(int i, int face, const char* state) {
-    return QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state);
+void SayDie(QWidget& die, int i, int face, const char* state) {
+    Say(die, QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state));
 }
 
 PictureButton::Looks RollLooks(RollPicture kind) {
@@ -76,16 +77,21 @@ void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
     die.frame = new Shape(dieFrameNames[i], table, QColor());  // the shadow of a die lies in its picture
     die.free = new PictureButton(Index("picDice", i), table, art, {});
     die.held = new PictureButton(Index("PicDiceOff", i), table, art, {});
+    SayChecked(*die.free, false);
+    SayChecked(*die.held, true);
     ShowFree(i);
     ShowFace(i, i + 1);
     EnableDie(i, false);
-    QObject::connect(die.free, &QAbstractButton::clicked, die.free, [hold = events.hold, i] { hold(i); });
-    QObject::connect(die.held, &QAbstractButton::clicked, die.held, [release = events.release, i] { release(i); });
+    QObject::connect(die.free, &QAbstractButton::clicked, die.free, [press = events.die, i] { press(i); });
+    QObject::connect(die.held, &QAbstractButton::clicked, die.held, [press = events.die, i] { press(i); });
 }
 
 void DiceTray::MakeRollButton(Art& art, const Events& events) {
     QObject::connect(roll_, &QAbstractButton::pressed, roll_, events.rollDown);
     QObject::connect(roll_, &QAbstractButton::released, roll_, events.rollUp);
+    lamps_ = new QWidget(roll_->parentWidget());
+    lamps_->setObjectName("lamps");
+    lamps_->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int k = 0; k < lampCount; ++k) {
         const QRect area = Pixels(Place{lampLefts[k], lampTop, lampSize, lampSize});
         darkLamps_[k] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
@@ -112,6 +118,8 @@ void DiceTray::LayOut(int columns, int lastDieIndex) {
     rollFrame_->setGeometry(Pixels(rollFramePlace.In(columns)));
     const Place roll = rollPlace.In(columns);
     roll_->setGeometry(Pixels(roll));
+    lamps_->setGeometry(
+        darkLamps_[0]->geometry().united(darkLamps_[lampCount - 1]->geometry()).translated(roll_->pos()));
     nextPlayer_->setGeometry(Pixels(Within(roll, nextPlayerPlace)));
     showBoard_->setGeometry(Pixels(Within(roll, showBoardPlace)));
     for (int i = 0; i < maxDice; ++i) {
@@ -135,8 +143,8 @@ void DiceTray::SetRollPicture(RollPicture kind) { roll_->SetLooks(RollLooks(kind
 void DiceTray::ShowFace(int i, int face) {
     At(i).free->SetLooks(FreeLooks(face));
     At(i).held->SetLooks(HeldLooks(face));
-    At(i).free->setAccessibleName(Said(i, face, "free"));
-    At(i).held->setAccessibleName(Said(i, face, "held"));
+    SayDie(*At(i).free, i, face, "free");
+    SayDie(*At(i).held, i, face, "held");
 }
 
 void DiceTray::ShowRollingFace(int i, int face) { At(i).free->SetLooks(RollingLooks(face)); }
@@ -166,6 +174,7 @@ void DiceTray::SetLamps(int n) {
         litLamps_[k]->setVisible(k < n);
         darkLamps_[k]->setVisible(k >= n);
     }
+    Say(*lamps_, QString("Roll %1 of %2").arg(n).arg(lampCount));
 }
 
 void DiceTray::ShowNextPlayer(bool on) {
