@@ -1,36 +1,23 @@
 #include "app/luckycup.h"
 
-#include <QDir>
-#include <QLockFile>
 #include <QStandardPaths>
 
 #include "app/program.h"
+#include "app/single_instance.h"
 #include "kit/message_box.h"
 #include "table/window/first_pictures.h"
 
 namespace {
-QString LockPath() {
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return (own.isEmpty() ? QDir::homePath() : own) + "/LuckyCup.lock";
-}
-
-// A lock that a crashed process left behind does not count, nor does a folder that takes no lock at all.
-bool RunsAlready(QLockFile& lock) {
-    lock.setStaleLockTime(0);  // however old: only the death of its owner makes a lock stale
-    return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError;
-}
-
 ProgramFiles Files() {
     return FindProgramFiles(QCoreApplication::applicationDirPath(),
                             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
-
 }  // namespace
 
 int Main(QApplication& app) {
     Art art;
-    QLockFile lock(LockPath());
-    if (RunsAlready(lock)) {
+    FileLock lock;
+    if (!TakeOnlyInstance(lock)) {
         ShowMessageBox(nullptr, art,
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;

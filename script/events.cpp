@@ -160,12 +160,14 @@ bool Options(ScriptTable& script, const ScriptLine& line) {
     return true;
 }
 
+constexpr int mostTicks = 1'000'000;  // the log of one event is kept until its line is written
+
 bool Tick(ScriptTable& script, const ScriptLine& line) {
     const auto name = std::ranges::find(timerNames, line.Value(1));
     if (name == timerNames.end()) throw BadArgument();
     const auto timer = static_cast<Timer>(name - timerNames.begin());
-    std::uint64_t ticks = 1;
-    if (line.Values() == 2) ticks = ParseNumber(line.Value(2), ticks, UINT64_MAX);
+    int ticks = 1;
+    if (line.Values() == 2) ticks = ParseNumber(line.Value(2), ticks, mostTicks);
 
     const TimerState& state = script.table.game.table.timers[timer];
     if (!state.enabled) return false;

@@ -27,7 +27,7 @@ struct RunningProgram {
 
     static QString Prepared(const QString& folder) {
         QDir(folder).mkdir("scores");
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
         return folder + '/';
     }
 
