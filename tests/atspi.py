@@ -36,7 +36,8 @@ class Reader:
             application = desktop.get_child_at_index(i)
             if application and application.get_process_id() == self.program.pid:
                 for k in range(application.get_child_count()):
-                    yield application.get_child_at_index(k)
+                    if window := application.get_child_at_index(k):
+                        yield window
 
     def controls(self, within):
         """Everything that shows below a control."""
@@ -104,12 +105,10 @@ def main():
             reader.press("Welcome to LuckyCup.*", "Play")
             play(reader)
             reader.press("Finish Game.", "Finish Game")
-            name = reader.wait(HALL_OF_FAME, "Player 1").get_name()
+            reader.wait(HALL_OF_FAME, "Player 1")
             total = reader.wait(HALL_OF_FAME, r"\d{2,3}").get_name()
             reader.press(HALL_OF_FAME, "Return")
-            shown = reader.wait(TABLE, r"Grand Total: \d+").get_name()
-            if shown != f"Grand Total: {total}":
-                raise RuntimeError(f"{name} has {total} in the hall of fame, and the table tells {shown}")
+            reader.wait(TABLE, f"Grand Total: {total}")
             reader.press(TABLE, "Exit Game")
             reader.press("Confirm", "OK")
             wait_for("the end of the program", lambda: reader.program.poll() is not None)
