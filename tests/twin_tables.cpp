@@ -53,7 +53,7 @@ void PressWithMark(T t, Line line) {
         if (marked(box))
             for (Direction step : way) t.Key(arrows[static_cast<std::size_t>(step)]);
     t.Key(Qt::CTRL | Qt::Key_Return);
-    for (int i = 0; i < 2; ++i) t.Key(Qt::Key_Escape);  // the first leaves a menu bar that was used before
+    t.Key(Qt::Key_Escape);
 }
 
 const Way ways[] = {
