@@ -1,6 +1,7 @@
 #include "table/window/menu_bar.h"
 
 #include <QActionGroup>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <span>
 
@@ -124,6 +125,14 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
     redo_ = Entry("mnuUndoRedo");
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
             [this] { setActiveAction(actions().front()); });
+}
+
+// A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table.
+void MenuBar::keyPressEvent(QKeyEvent* event) {
+    if (activeAction())
+        QMenuBar::keyPressEvent(event);
+    else
+        event->ignore();
 }
 
 void MenuBar::SetStyle(QStyle& style) {
