@@ -113,9 +113,13 @@ void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
 // A screen reader reaches what a dialog covers.
 void frmLuckyCup::Play(const std::function<void(Game&)>& handler) {
     Run([this, handler](Game& game) {
-        const QWidget* dialog = QApplication::activeModalWidget();
-        if (!dialog || dialog == this) handler(game);
+        if (!Covered()) handler(game);
     });
+}
+
+bool frmLuckyCup::Covered() const {
+    const QWidget* dialog = QApplication::activeModalWidget();
+    return dialog && dialog != this;
 }
 
 void frmLuckyCup::ShowMark() {
@@ -277,7 +281,8 @@ void frmLuckyCup::closeEvent(QCloseEvent* event) {
 }
 
 void frmLuckyCup::AskToLeave() {
-    if (std::exchange(leaving_, true)) return;
+    if (leaving_ || Covered()) return;
+    leaving_ = true;
     Run([this](Game& game) {
         leaving_ = Form_QueryUnload(game);
         if (!leaving_) return;

@@ -88,6 +88,7 @@ private:
     Board::Events BoardEvents();
     DiceTray::Events TrayEvents();
     CommandRunner Commands();
+    bool Covered() const;  // by a modal window
     void AskToLeave();
     void PlaceOnScreen();
     void SetPointersAndIcon();
