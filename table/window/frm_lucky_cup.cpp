@@ -281,10 +281,9 @@ void frmLuckyCup::closeEvent(QCloseEvent* event) {
 }
 
 void frmLuckyCup::AskToLeave() {
-    if (leaving_ || Covered()) return;
-    leaving_ = true;
+    if (std::exchange(leaving_, true)) return;
     Run([this](Game& game) {
-        leaving_ = Form_QueryUnload(game);
+        leaving_ = !Covered() && Form_QueryUnload(game);
         if (!leaving_) return;
         LetGo();
         gate_.Shut();
