@@ -1,4 +1,5 @@
-#include "tests/turn_steps.h"
+#include "script/counter_picture.h"
+#include "tests/table_driver.h"
 
 namespace {
 
@@ -85,19 +86,6 @@ TEST(ScoreCounter, FramesWorkedOutOnPaper) {
         Counter counter;
         EXPECT_EQ(counter.Run(totals.first, totals.second), frames) << totals.first << " to " << totals.second;
     }
-}
-
-TEST(ScoreCounter, RunsOnceForEveryBoxAndNotAfterRedo) {
-    PlayedTable t({.NumberOfDice = 4});
-    Play(t,
-         {{"roll 1 1 2 3 4;box 3 0", "effect rollAll, frames, effect-wait score", "up 0 11234 fffff 0 0 0 0 =2 undo"},
-          {"tick tmrCounter", "effect counter7, sleep 50, refresh 1@75, sleep 50, refresh 2@75, effect counter0"},
-          {"not tick tmrCounter", ""},
-          {"undo", "effect undo, refresh ", "up 1 11234 FFFFF 1 1 13 13 =0 redo"},
-          {"redo", "effect redo, refresh 2@75", "up 0 11234 fffff 0 0 0 0 =2 undo"},
-          {"tick tmrCounter", ""},
-          {"sounds off;undo;redo;roll 1 2 3 4 6;box 1 0;tick tmrCounter",
-           "refresh , refresh 2@75, frames, sleep 50, refresh 3@75", "up 0 12346 fffff 0 0 0 0 =3 undo"}});
 }
 
 }  // namespace

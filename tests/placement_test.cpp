@@ -3,7 +3,7 @@
 #include "core/box_click.h"
 #include "core/turn.h"
 #include "table/main_window.h"
-#include "tests/turn_steps.h"
+#include "tests/table_driver.h"
 
 namespace {
 
@@ -83,20 +83,6 @@ TEST(Placement, KeepsTheBoardInOrderWithABonusAt63AndNoneAt62) {
     }
     for (ScoreColumn column : allColumns)
         EXPECT_TRUE(seen.contains({column, 62}) && seen.contains({column, 63})) << static_cast<int>(column);
-}
-
-std::string Counting(const Game& game) { return game.table.timers[Timer::tmrCounter].enabled ? "soon" : "done"; }
-
-TEST(Placement, SoundAndCounterGoByTheWorthOfTheBox) {
-    PlayedTable t(fiveDice);
-    Play(t, Counting,
-         {{"roll 2 2 2 2 3;box 1 0", "effect rollAll, frames, effect scoreZero, refresh 0@75"},
-          {"roll 2 2 2 2 3;box 4 0;box 4 0", "effect rollAll, frames, effect announce, effect scoreZero", "soon"},
-          {"tick tmrCounter", "refresh 0@75", "done"},
-          {"roll 2 2 2 2 3;box 3 6", "effect rollAll, frames, effect-wait score", "soon"},
-          {"tick tmrCounter", "refresh 0@75", "done"},
-          {"sounds off;roll 2 2 2 2 3;box 3 0", "frames, refresh 0@75"},
-          {"roll 1 1 1 2 3;box 1 1", "frames", "soon"}});
 }
 
 // Called while the sound of a placement is heard.
