@@ -52,4 +52,13 @@ TEST(ScoreCounter, FramesWorkedOutOnPaper) {
     }
 }
 
+TEST(ScoreCounter, IsTheFasterTheFurtherItRuns) {
+    for (const auto& [rise, delay] :
+         {std::pair{19, 50}, {20, 40}, {29, 40}, {30, 30}, {39, 30}, {40, 20}, {59, 20}, {60, 10}}) {
+        Counter counter;
+        counter.Run(5, 5 + rise);
+        EXPECT_EQ(std::ranges::count(counter.table.log, "sleep " + std::to_string(delay)), rise);
+    }
+}
+
 }  // namespace
