@@ -1,5 +1,6 @@
 #include "core/end_of_game.h"
 
+#include <fstream>
 #include <sstream>
 
 #include "tests/state_differences.h"
@@ -101,102 +102,18 @@ struct EndingGame : PlayedTable {
     };
 };
 
-// Under the number of a last box and the last turns of one player or of two: what comes of each. A turn has so many
-// rolls, and its box scores (+) or not (-). u: the player takes it back when asked and writes it again; p: the score
-// gets into the table; m: there is music.
-constexpr const char* endings = R"(0 3+pm
-  score, counted, silence, 1|920|Player 1|20, jingle 2, scores: off progress over message intro
-0 1-
-  scoreZero, finish, 1|820|Player 1|-1, jingle 1, scores: off progress over seen message
-0 2+u
-  score, counted, undo: box dice roll progress seen counter
-  score, counted, finish, 1|920|Player 1|-1, jingle 1, scores: off progress over seen message
-0 1+ 3-
-  score, finish, 1|920|Player 1|-1: roll next seen counter
-  scoreZero, 1|820|Player 2|-1, winner: roll off board progress over seen message
-0 3-p 2+um
-  scoreZero, silence, 1|820|Player 1|20, jingle 2, scores: roll next seen
-  score, undo: box dice roll progress seen counter
-  score, finish, silence, 1|920|Player 2|20, jingle 2, scores, winner: roll off board progress over seen counter message intro
-1 3-
-  scoreZero, 1|920|Player 1|-1, jingle 1, scores: off progress over message
-1 2+pm
-  score, counted, finish, silence, 1|925|Player 1|20, jingle 2, scores: off progress over seen message intro
-1 1+u
-  score, counted, undo: box dice roll progress seen counter
-  score, counted, finish, 1|925|Player 1|-1, jingle 1, scores: off progress over seen message
-1 3+ 1-p
-  score, counted, 1|925|Player 1|20, jingle 2, scores: roll next seen
-  scoreZero, finish, 1|920|Player 2|20, jingle 2, scores, winner: roll off board progress over seen counter message
-1 2-u 3+
-  scoreZero, undo: box dice roll progress seen counter
-  scoreZero, finish, 1|920|Player 1|-1: roll next seen counter
-  score, counted, 1|925|Player 2|-1, winner: roll off board progress over seen message
-2 3+pm
-  score, counted, silence, 1|980|Player 1|20, jingle 2, scores: off progress over message intro
-2 1+ 3-
-  score, finish, 1|980|Player 1|-1: roll next seen counter
-  scoreZero, 1|920|Player 2|-1, winner: roll off board progress over seen message
-3 3+pm
-  score, counted, silence, 1|920|Player 1|20, jingle 2, scores: off progress over message intro
-3 1-
-  scoreZero, finish, 1|820|Player 1|-1, jingle 1, scores: off progress over seen message
-3 2+u
-  score, counted, undo: box dice roll progress seen counter
-  score, counted, finish, 1|920|Player 1|-1, jingle 1, scores: off progress over seen message
-3 1+u
-  score, counted, undo: box dice roll progress seen
-  score, counted, finish, 1|920|Player 1|-1, jingle 1, scores: off progress over seen message
-3 2+
-  score, counted, finish, 1|920|Player 1|-1, jingle 1, scores: off progress over seen message
-3 1+ 3-
-  score, finish, 1|920|Player 1|-1: roll next undo seen counter
-  scoreZero, 1|820|Player 2|-1, winner: roll off board progress over seen message
-3 3-p 2+um
-  scoreZero, silence, 1|820|Player 1|20, jingle 2, scores: roll next seen counter
-  score, undo: box dice roll progress seen counter
-  score, finish, silence, 1|920|Player 2|20, jingle 2, scores, winner: roll off board progress over seen counter message intro
-4 3+pm
-  score, counted, silence, 3|290|Player 1|20, jingle 2, scores: off progress over message intro
-4 1-
-  scoreZero, finish, 3|230|Player 1|-1, jingle 1, scores: off progress over seen counter message
-4 2+u
-  score, undo: box dice roll progress seen counter
-  score, finish, 3|290|Player 1|-1, jingle 1, scores: off progress over seen counter message
-4 1+ 3-
-  score, finish, 3|290|Player 1|-1: roll next seen counter
-  scoreZero, 3|230|Player 2|-1, winner: roll off board progress over seen message
-4 3-p 2+um
-  scoreZero, silence, 3|230|Player 1|20, jingle 2, scores: roll next seen
-  score, undo: box dice roll progress seen counter
-  score, finish, silence, 3|290|Player 2|20, jingle 2, scores, winner: roll off board progress over seen counter message intro
-5 3+p
-  score, 3|230|Player 1|20, jingle 2, scores: off progress over message
-5 2+u
-  score, undo: box dice roll progress seen counter
-  score, finish, 3|230|Player 1|-1, jingle 1, scores: off progress over seen counter message
-5 1+ 3-p
-  score, finish, 3|230|Player 1|20, jingle 2, scores: roll next seen counter
-  score, 3|230|Player 2|20, jingle 2, scores, draw: roll off board progress over seen message
-6 3+p
-  score, 1|920|Player 1|20, jingle 2, scores: off progress over message
-6 2+u
-  score, undo: box dice roll progress seen counter
-  score, finish, 1|920|Player 1|-1, jingle 1, scores: off progress over seen message
-6 1+ 3-p
-  score, finish, 1|920|Player 1|20, jingle 2, scores: roll next undo seen counter
-  score, 1|920|Player 2|20, jingle 2, scores, draw: roll off board progress over seen message
-)";
-
 TEST(EndOfGame, EachPathWithEachKindOfLastBox) {
-    std::istringstream in(endings);
+    std::ifstream in(CASES "endings.txt");
+    int cases = 0;
     const auto expectNext = [&](const EndingGame& ending) {
         std::string expected;
         std::getline(in, expected);
         EXPECT_EQ("  " + ending.Outcome(), expected);
     };
     for (std::string line; std::getline(in, line);) {
+        if (line[0] == '#') continue;
         SCOPED_TRACE(line);
+        ++cases;
         const auto has = [&](char mark) { return line.find(mark) != line.npos; };
         EndingGame ending(std::ranges::count(line, ' ') == 1 ? 1 : 2, lastBoxes[line[0] - '0'], has('m'));
         ending.place = has('p') ? 20 : -1;
@@ -215,6 +132,7 @@ TEST(EndOfGame, EachPathWithEachKindOfLastBox) {
             ending.Takes("tick tmrCounter");
         }
     }
+    EXPECT_EQ(cases, 30);
 }
 
 TEST(EndOfGame, FailingScoreFileLetsNewGameWorkAtOnce) {

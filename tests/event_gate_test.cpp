@@ -36,9 +36,16 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
     EXPECT_EQ(ticks, 2);
 }
 
-TEST(Gate, OpensAgainAfterAHandlerThatFails) {
+TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
     EventGate gate;
     std::string ran;
+    gate.Run([&] {
+        for (const char* name : {"1 ", "2 "}) gate.Run([&ran, name] { ran += name; });
+        QTest::qWait(5);
+        ran += "0 ";
+    });
+    EXPECT_EQ(ran, "0 ");
+    QTest::qWait(5);
     EXPECT_THROW(gate.Run([&] {
         gate.Run([&] { ran += "later "; });
         throw std::runtime_error("a handler failed");
@@ -53,20 +60,7 @@ TEST(Gate, OpensAgainAfterAHandlerThatFails) {
     EXPECT_FALSE(gate.Busy());
     gate.Run([&] { ran += "next "; });
     QTest::qWait(1);
-    EXPECT_EQ(ran, "later next ");
-}
-
-TEST(Gate, LetsInOneAfterTheOther) {
-    EventGate gate;
-    std::string ran;
-    gate.Run([&] {
-        for (const char* name : {"1 ", "2 ", "3 "}) gate.Run([&ran, name] { ran += name; });
-        QTest::qWait(5);
-        ran += "0 ";
-    });
-    EXPECT_EQ(ran, "0 ");
-    QTest::qWait(5);
-    EXPECT_EQ(ran, "0 1 2 3 ");
+    EXPECT_EQ(ran, "0 1 2 later next ");
 }
 
 }  // namespace

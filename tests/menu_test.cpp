@@ -1,51 +1,21 @@
-#include <gtest/gtest.h>
-
 #include <QAccessible>
-#include <QApplication>
 #include <QLineEdit>
-#include <QMenu>
-#include <QTest>
+#include <QMenuBar>
+#include <QPainter>
+#include <QStyleOptionMenuItem>
 
 #include "kit/art_icon.h"
 #include "menus/menu_colours.h"
-#include "menus/menu_style.h"
-#include "script/headless_ports.h"
-#include "table/table_parts.h"
-#include "table/window/frm_lucky_cup.h"
+#include "tests/window_table.h"
 
 namespace {
 
 constexpr QRgb selected = 0xFF323232, white = 0xFFFFFFFF, dark = 0xFF7C7C7C;
 constexpr int frame = 1, rowHeight = 22, checkMarkWidth = 12;
 
-// The main window with its menus, before a game that nobody plays.
-struct MenuTable {
-    MenuTable() {
-        window.SetMenuStyle(style);
-        window.Load(game);
-        window.show();
-        (void)QTest::qWaitForWindowExposed(&window);
-    }
-
+struct MenuTable : WindowTable {
     QMenu& Menu(const char* name) { return *window.findChild<QMenu*>(name); }
-    QAction& Entry(const char* name) { return *window.findChild<QAction*>(name); }
     QMenuBar& Bar() { return *window.menuBar(); }
-
-    Art art;
-    MenuStyle style{art};
-    EventGate gate;
-    frmLuckyCup window{gate, art};
-    SilentTimers timers;
-    SilentClock clock;
-    HeadlessRandom random;
-    SilentEffects effects;
-    SilentMedia media;
-    SilentDialogs dialogs;
-    SilentScores scores;
-    SilentShell shell;
-    SilentStore store;
-    TableParts parts;
-    Game game{Ports{window, timers, clock, random, effects, media, dialogs, scores, shell, store, parts}};
 };
 
 // What a widget shows at a scale, and where that differs from the bare ground.
@@ -81,23 +51,10 @@ struct Shot {
 int Advance(const QString& text) { return QFontMetrics(GetMenuFont()).horizontalAdvance(text); }
 
 TEST(MenuColours, AreFoundByTheirKeys) {
-    const struct {
-        const char* key;
-        QColor onSkin, onPlain;
-    } told[] = {
-        {"Selected", {50, 50, 50}, {186, 186, 204}},
-        {"BorderColor", {255, 255, 255}, {85, 85, 118}},
-        {"SELECTEDTEXT", {255, 255, 255}, {255, 255, 255}},
-        {"menubg", {58, 110, 165}, {58, 110, 165}},
-        {"Body", {58, 110, 165}, {58, 110, 165}},
-        {"headingtext", {231, 231, 255}, {231, 231, 255}},
-        {"menutext", {0, 0, 0}, {0, 0, 0}},
-        {"of no kind", {0, 0, 0}, {0, 0, 0}},
-    };
-    for (const auto& [key, onSkin, onPlain] : told) {
-        EXPECT_EQ(GetMenuColor(QString(key), true), onSkin) << key;
-        EXPECT_EQ(GetMenuColor(QString(key), false), onPlain) << key;
-    }
+    EXPECT_EQ(GetMenuColor(QString("Selected"), false), QColor(186, 186, 204));
+    EXPECT_EQ(GetMenuColor(QString("BORDERCOLOR"), false), QColor(85, 85, 118));
+    EXPECT_EQ(GetMenuColor(QString("headingtext"), true), QColor(231, 231, 255));
+    EXPECT_EQ(GetMenuColor(QString("of no kind"), true), QColor(Qt::black));
     Art art;
     MenuStyle bare(art, false);
     QMenu menu;
@@ -124,7 +81,7 @@ TEST(MenuSizes, FollowTextAndImage) {
         EXPECT_EQ(t.Bar().actionGeometry(menu.menuAction()).size(), QSize(Advance(barEntry->text()) + 6, rowHeight));
     }
     QMenu tall;
-    tall.setStyle(&t.style);
+    tall.setStyle(&t.menuStyle);
     tall.addAction(ArtIcon(t.art, "menu_new", {20, 28}), "Tall");
     EXPECT_EQ(tall.sizeHint().height(), 28 + 6 + 2 * frame);
 }
@@ -213,7 +170,7 @@ TEST_P(MenuPixels, LightUpWhatIsEnabledUnderTheMouse) {
         item.icon = ArtIcon(t.art, "menu_undo", {16, 16});
         item.state = state;
         QPainter painter(&canvas);
-        t.style.drawControl(QStyle::CE_MenuItem, &item, &painter, &menu);
+        t.menuStyle.drawControl(QStyle::CE_MenuItem, &item, &painter, &menu);
         return canvas;
     };
     EXPECT_EQ(drawn(QStyle::State_Selected), drawn(QStyle::State_None));

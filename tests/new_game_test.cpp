@@ -54,32 +54,11 @@ TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
     }
 }
 
-const std::string closed = "media close song, media close Intro", reset = "effect newGame, " + closed;
-
-TEST(NewGame, Questions) {
-    using enum HeadlessAnswer;
-    const std::string quit = "message Confirm|Quit this Game?|question|", changed = "dialog frmOptions|ok",
-                      start = changed +
-                              ", message Start a New Game?|Click OK to start a new game or click Cancel to "
-                              "discard changes and return to current game.|question|";
-    ExpectEvent("state", "new", closed, "");
-    ExpectEvent("roll", "new", quit + "cancel", "", {Cancel});
-    ExpectEvent("roll", "new", quit + "ok, " + reset, "*", {Ok});
-    ExpectEvent("options ConfirmQuitGame=False;roll", "new", reset, "*");
-    ExpectEvent("options;roll", "options NumberOfDice=4", start + "cancel", "session.NewGameAnswer ", {Ok, Cancel});
-    ExpectEvent("options;roll", "options NumberOfColumns=1 NumberOfPlayers=2 Player1=Ann", start + "cancel",
-                "panels session.NewGameAnswer settings.Player1 showBoard.caption title ", {Ok, Cancel});
-    ExpectEvent("options;roll", "options NumberOfDice=4", start + "ok, " + reset, "*", {Ok, Ok});
-    ExpectEvent("roll;options NumberOfDice=4;tick tmrAnimation 99;roll", "new", quit + "cancel", "", {Cancel});
-    ExpectEvent("options", "options NumberOfDice=4", changed,
-                "dice.LastDieIndex dice.shown settings.NumberOfDice title ");
-}
-
 TEST(NewGame, AfterTheEndAsksNothing) {
     PlayedTable over({.NumberOfPlayers = 2, .NumberOfColumns = 1, .SoundEnabled = false, .BGMusicEnabled = true});
     over.PlayGame(1, [](const std::string&) {});
     over.Do("tick tmrGameOver 3;new");
-    EXPECT_EQ(Shortened(over.table.log), closed);
+    EXPECT_EQ(Shortened(over.table.log), "media close song, media close Intro");
     EXPECT_FALSE(over.game.table.timers[Timer::tmrGameOver].enabled || over.game.table.timers[Timer::Timer4].enabled);
     EXPECT_TRUE(over.game.table.timers[Timer::Timer3].enabled);
 }

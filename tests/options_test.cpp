@@ -1,5 +1,4 @@
 #include "dialogs/options_form.h"
-#include "table/commands.h"
 #include "tests/state_differences.h"
 
 namespace {
@@ -30,37 +29,14 @@ TEST(Options, EachControlShowsAndStoresItsSetting) {
     }
 }
 
-TEST(Options, InTheRunningGame) {
-    const std::string ok = "dialog frmOptions|ok", names = "showBoard.caption title ";
-    ExpectEvent("options;roll", "options Player1=Ann", ok, "panels settings.Player1 " + names);
-    ExpectEvent("options", "options BGMusicVolume=1 Player1=Ann NumberOfDice=4", "dialog frmOptions|cancel",
-                "session.SettingsChanged ", {HeadlessAnswer::Cancel});
-    ExpectEvent("options", "options BGMusicVolume=1 Player2=Bo", ok, "settings.BGMusicVolume ");
-    ExpectEvent("options;roll", "options ShowStatusBar=False", ok, "height panels settings.ShowStatusBar statusBar ");
-    ExpectEvent("options;roll;options ShowStatusBar=False", "options NumberOfPlayers=2 NumberOfPlayers=1", ok,
-                "height settings.ShowStatusBar statusBar ");
-    PlayedTable t({.NumberOfPlayers = 2, .Player1 = "Ann", .Player2 = "Bo"});
-    const auto shown = [&] {
-        return t.game.table.panels[1].text + '|' + t.game.table.title + '|' + t.game.table.showBoard.caption;
-    };
-    t.Do("roll;box 3 6;options Player1=Eve");
-    EXPECT_EQ(shown(), "Eve|Lucky Cup - Eve|    Show      Eve's  Board");
-    t.Do("next;options Player1=Ida Player2=Bob");
-    EXPECT_EQ(shown(), "Bob|Lucky Cup - Bob|    Show      Ida's  Board");
-    t.Do("options Player1=Bob;options Player1=Eve");
-    EXPECT_EQ(shown(), "Eve|Lucky Cup - Eve|    Show      Eve's  Board") << "equal names";
-}
-
-TEST(Commands, OfTheChoices) {
-    ExpectEvent("state", "hints request", "", "hintButton session.HintsOn settings.hintAllways tipColumn ");
-    ExpectEvent("sounds off", "sounds on", "", "session.SoundOn settings.SoundEnabled ");
-    ExpectEvent("state", "music on", "", "settings.BGMusicEnabled timers.Timer3 ");
-    ExpectEvent("music on", "music off", "media close myMP3, media close song",
-                "settings.BGMusicEnabled timers.Timer3 ");
+// Those with a text share the bar.
+TEST(Options, PanelsHaveTheWidthsOfOnePlayerOrOfTwo) {
     PlayedTable t;
-    t.Do("roll");
-    tbHint_Click(t.game);
-    EXPECT_FALSE(t.game.session.MayHint || t.game.session.HintsRequested) << "hints are always on";
+    for (const bool two : {false, true}) {
+        const std::array<int, 4> widths = two ? std::array{2000, 1, 1630, 1} : std::array{1, 2550, 1, 1230};
+        for (std::size_t k = 0; k < widths.size(); ++k) EXPECT_TRUE(t.game.table.panels[k + 1].width == widths[k]) << k;
+        t.Do("options NumberOfPlayers=2");
+    }
 }
 
 }  // namespace

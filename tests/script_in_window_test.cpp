@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <fstream>
 #include <random>
 
 #include "tests/open_events.h"
@@ -10,21 +11,12 @@
 // which play the seeds 1 to 500. Without RANDOM_SCRIPTS it is a handful.
 namespace {
 
-std::string Option(const char* name, std::mt19937& random, std::initializer_list<const char*> values) {
-    return std::string(" ") + name + '=' + values.begin()[random() % values.size()];
-}
-
-std::string OptionPairs(std::mt19937& random) {
-    std::string pairs;
-    if (random() % 2) pairs += Option("NumberOfColumns", random, {"1", "4"});
-    if (random() % 3 == 0) pairs += Option("NumberOfDice", random, {"4", "5"});
-    if (random() % 3 == 0) pairs += Option("NumberOfPlayers", random, {"1", "2"});
-    if (random() % 3 == 0) pairs += Option("ShowStatusBar", random, {"True", "False"});
-    if (random() % 4 == 0) pairs += Option("ConfirmQuitGame", random, {"True", "False"});
-    if (random() % 3 == 0) pairs += Option("Player1", random, {"Ann", "Bo&b", "", "Player_with_a_long_name"});
-    if (random() % 3 == 0) pairs += Option("Player2", random, {"Cleo", "Ann", "[*]"});
-    if (random() % 4 == 0) pairs += Option("BGMusicVolume", random, {"1", "250", "1000"});
-    return pairs;
+// The lines of a file of cases, in which more likely ones stand more often.
+std::vector<std::string> LinesOf(const char* path) {
+    std::ifstream in(path);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
 }
 
 // Writes the lines of a script as it goes, by what stands on the table.
@@ -69,33 +61,13 @@ struct ScriptWriter {
 
     // What a player does beside the play.
     std::string Aside() {
-        static const char* const asides[] = {"undo",
-                                             "undo",
-                                             "undo",
-                                             "redo",
-                                             "redo",
-                                             "hint",
-                                             "hints always",
-                                             "hints request",
-                                             "sounds on",
-                                             "sounds off",
-                                             "music on",
-                                             "music off",
-                                             "tick Timer3",
-                                             "tick Timer4 2",
-                                             "tick tmrTimeElapsed 61",
-                                             "tick tmrRollDice 2",
-                                             "tick tmrGameOver 3",
-                                             "tick tmrAnimation 40",
-                                             "minimize",
-                                             "key space",
-                                             "key enter",
-                                             "board",
-                                             "quit",
-                                             "state"};
-        if (OneIn(20)) return "options" + OptionPairs(random);
+        static const auto asides = LinesOf(CASES "asides.txt"), pairs = LinesOf(CASES "option_pairs.txt");
+        const auto any = [&](const std::vector<std::string>& of) { return of.at(random() % of.size()); };
         if (OneIn(40)) return "new";
-        return asides[random() % std::size(asides)];
+        if (!OneIn(20)) return any(asides);
+        std::string options = "options";
+        while (!OneIn(3)) options += ' ' + any(pairs);
+        return options;
     }
 
     void WriteEvent() {

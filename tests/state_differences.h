@@ -4,7 +4,7 @@
 #include <QJsonObject>
 
 #include "script/json_line.h"
-#include "tests/turn_steps.h"
+#include "tests/table_driver.h"
 
 // The eight variants.
 inline GameSettings Variant(unsigned long n) {
@@ -30,16 +30,4 @@ inline std::string Differences(const QJsonObject& one, const QJsonObject& other,
             value.isObject() ? Differences(value.toObject(), other[key].toObject(), allowed, name + '.') : name + ' ';
     }
     return names;
-}
-
-// What one event does on a table of its own, after others. Differences of "*" are not looked at.
-inline void ExpectEvent(const std::string& before, const std::string& event, const std::string& log,
-                        const std::string& differences, const std::deque<HeadlessAnswer>& answers = {}) {
-    PlayedTable played;
-    played.Do(before);
-    const QJsonObject state = StateOf(played);
-    played.table.dialogs.answers = answers;
-    played.Do(event);
-    EXPECT_EQ(Shortened(played.table.log), log) << before << " > " << event;
-    EXPECT_EQ(differences == "*" ? "*" : Differences(state, StateOf(played)), differences) << before << " > " << event;
 }

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <random>
 
 #include "script/events.h"
@@ -55,3 +56,15 @@ struct PlayedTable : ScriptTable {
     QTemporaryDir folder;
     Game& game = table.game;
 };
+
+// One text, with the nine frames of a roll drawn together.
+inline std::string Shortened(std::vector<std::string> log) {
+    const std::vector<std::string> frames(9, "sleep 60");
+    for (auto at = log.begin(); (at = std::search(at, log.end(), frames.begin(), frames.end())) != log.end();) {
+        *at = "frames";
+        at = log.erase(at + 1, at + 9);
+    }
+    std::string text;
+    for (const std::string& entry : log) text += (text.empty() ? "" : ", ") + entry;
+    return text;
+}

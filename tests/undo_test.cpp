@@ -85,30 +85,4 @@ TEST(Undo, GivesBackTheMoveAndRedoRepeatsIt) {
     for (unsigned seed = 0; seed < 64; ++seed) UndoGame{seed};
 }
 
-TEST(Undo, AsTheTurnGoes) {
-    const char *rolled = "effect rollAll, frames", *held = "effect holdDice",
-               *written = "effect-wait score, refresh 0@75";
-    const char *undone = "effect undo, refresh 0@75", *redone = "effect redo, refresh 0@75";
-    PlayedTable t;
-    Play(t, {{"roll 1 2 3 4 5 6", rolled, "up 1 123456 FFFFFF 1 1 13 13 =0"},
-             {"die 5", held, "up 1 123456 FFFFFH 1 1 13 13 =0"},
-             {"box 3 6;tick tmrCounter", written, "up 0 123456 ffffff 0 0 0 0 =0 undo"},
-             {"undo", "effect undo, refresh ", "up 1 123456 FFFFFH 1 1 13 13 =0 redo"},
-             {"roll 5 6 6 6 5", rolled, "up 2 566656 FFFFFH 1 1 13 0 =0"},
-             {"roll 1 6 5 6 5", rolled, "off 3 165656 fffffh 1 1 13 0 =0"},
-             {"box 3 6;tick tmrCounter", written, "up 0 155666 ffffff 0 0 0 0 =0 undo"},
-             {"undo", "effect undo, refresh ", "off 3 165656 ffffff 1 1 13 0 =0 redo"},
-             {"redo;tick tmrCounter", redone, "up 0 155666 ffffff 0 0 0 0 =0 undo"},
-             {"roll 6 5 4 3 2 1", rolled, "up 1 654321 FFFFFF 1 1 12 13 =0"},
-             {"box 4 6", "effect announce", "up 1 654321 FFFFFF 0 0 0 1 =0 undo"},
-             {"box 4 6;tick tmrCounter", written, "up 0 123456 ffffff 0 0 0 0 =0 undo"},
-             {"undo", undone, "up 1 654321 FFFFFF 1 1 12 13 =0 redo"},
-             {"redo;tick tmrCounter", redone, "up 0 123456 ffffff 0 0 0 0 =0 undo"},
-             {"undo", undone, "up 1 654321 FFFFFF 1 1 12 13 =0 redo"},
-             {"box 4 7", "effect announce", "up 1 654321 FFFFFF 0 0 0 1 =0 undo"},
-             {"undo;redo", "effect undo, effect redo"}});
-    t.Do("box 4 7;hints request;roll;hint;box 3 7;undo");
-    EXPECT_EQ(std::ranges::count(t.game.table.tips, ""), rowCount);
-}
-
 }  // namespace
