@@ -109,6 +109,7 @@ def main():
             # The list may hold games of others that were played in the same folder.
             totals = {control.get_name() for control in reader.find(HALL_OF_FAME, r"\d{2,3}")}
             reader.press(HALL_OF_FAME, "Return")
+            wait_for("the end of the hall of fame", lambda: next(reader.find(HALL_OF_FAME, "Return"), None) is None)
             reader.wait(TABLE, f"Grand Total: ({'|'.join(totals)})")
             reader.press(TABLE, "Exit Game")
             reader.press("Confirm", "OK")
