@@ -2,12 +2,16 @@
 
 #include <QDir>
 #include <QLockFile>
+#include <QScreen>
 #include <QStandardPaths>
 
 #include "app/program.h"
 #include "core/program_folder.h"
 #include "kit/message_box.h"
+#include "kit/sized_widgets.h"
+#include "store/size_store.h"
 #include "table/window/first_pictures.h"
+#include "table/window/layout.h"
 
 namespace {
 QString LockPath() {
@@ -28,6 +32,7 @@ std::string ProgramFolder() {
 }  // namespace
 
 int Main(QApplication& app) {
+    ChangeSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
     Art art;
     QLockFile lock(LockPath());
     if (RunsAlready(lock)) {

@@ -3,11 +3,13 @@
 #include <QPainter>
 
 #include "kit/controls.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 #include "table/window/layout.h"
 
 namespace {
-constexpr int gap = 2;
-constexpr int inset = 3;
+constexpr int gapAtToldSize = 2;
+constexpr int insetAtToldSize = 3;
 
 // A player's name, which may be as long as the player likes: where it is cut it shows that it is, and tells the whole
 // under a resting mouse.
@@ -30,7 +32,7 @@ QLabel* MakePanel(int k, QWidget* parent) { return k == 1 ? new NamePanel(parent
 
 StatusBarWidget::StatusBarWidget(QWidget* parent) : QWidget(parent) {
     setObjectName("StatusBar1");
-    setFont(TableFont(false));
+    SetLetters(*this, TableFont(false));
     for (int k = 1; k <= 5; ++k) {
         panels_[k].label = MakePanel(k, this);
         panels_[k].label->setObjectName(QString("StatusBar1_%1").arg(k));
@@ -49,6 +51,7 @@ void StatusBarWidget::SetPanelLayout(int k, int widthInTwips, bool visible) {
 }
 
 void StatusBarWidget::PlacePanels() {
+    const int gap = Sized(gapAtToldSize), inset = Sized(insetAtToldSize);
     int left = 0;
     for (Panel& panel : panels_) {
         panel.label->setVisible(panel.visible);
@@ -66,6 +69,7 @@ void StatusBarWidget::resizeEvent(QResizeEvent*) { PlacePanels(); }
 void StatusBarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), colour::window);
+    const int inset = Sized(insetAtToldSize);
     for (const Panel& panel : panels_) {
         if (!panel.visible) continue;
         PaintEdges(painter, panel.label->geometry().adjusted(-inset, -1, inset, 1), colour::dark, colour::light);
