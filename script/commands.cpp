@@ -62,9 +62,7 @@ constexpr SetUp setUps[] = {
 };
 
 void RunLine(ScriptTable& script, const ScriptLine& line, std::ostream& out) {
-    if (line.Empty()) return;
-    const auto* setUp = std::ranges::find(setUps, line.Command(), &SetUp::command);
-    if (setUp != std::end(setUps)) return setUp->run(script, line);
+    if (line.Empty() || RunSetUp(script, line)) return;
     if (!IsEvent(line.Command())) throw BadLine("unknown command '" + std::string(line.Command()) + '\'');
 
     script.table.log.clear();
@@ -73,6 +71,13 @@ void RunLine(ScriptTable& script, const ScriptLine& line, std::ostream& out) {
 }
 
 }  // namespace
+
+bool RunSetUp(ScriptTable& script, const ScriptLine& line) {
+    const auto* setUp = std::ranges::find(setUps, line.Command(), &SetUp::command);
+    if (setUp == std::end(setUps)) return false;
+    setUp->run(script, line);
+    return true;
+}
 
 int RunScript(std::istream& in, std::ostream& out, std::ostream& err) {
     ScriptTable script;

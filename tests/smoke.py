@@ -20,6 +20,7 @@ class Start:
 
     def __init__(self, screen, command, home, errors):
         self.screen = screen
+        self.home = home
         self.program = screen.start(command, stderr=errors, home=home)
 
     def window(self, title):
@@ -70,10 +71,20 @@ def play_from_the_welcome(start):
     start.screen.press(welcome, "Return")
     table = start.window(TABLE)
     start.roll(table)
+    meet_the_running_game(start)
     start.screen.press(table, "F1")
     start.window(HELP)  # goes with the table
     start.screen.ask_to_close(table)
     start.wait_for_end()
+
+
+def meet_the_running_game(start):
+    second = start.screen.start(start.program.args[0], home=start.home)
+    message = wait_for("the word that the game runs", lambda: start.screen.find_window("^LuckyCup Running$"))
+    start.screen.press(message, "Return")
+    wait_for("the end of the second program", lambda: second.poll() is not None)
+    if second.returncode != 0 or start.program.poll() is not None:
+        raise RuntimeError(f"the second program ended with {second.returncode}, the first with {start.program.poll()}")
 
 
 def meet_the_splash(start):

@@ -7,6 +7,8 @@
 #include <random>
 
 #include "script/events.h"
+#include "tests/open_events.h"
+#include "tests/readable.h"
 
 // A table without a window, in a folder of its own, under the hands of a player. Its inputs are those of a table
 // script.
@@ -37,20 +39,7 @@ struct PlayedTable : ScriptTable {
         return RunEvent(*this, line);
     }
 
-    // Every input that plays on and that the table would take now.
-    std::vector<std::string> OpenEvents() const {
-        std::vector<std::string> open;
-        if (game.table.roll.enabled) open.push_back(game.table.nextPlayer ? "next" : "roll");
-        if (game.table.timers[Timer::tmrCounter].enabled) open.push_back("tick tmrCounter");
-        for (std::size_t i = 0; i < maxDice; ++i)
-            if (game.table.dice[i].shown && game.table.dice[i].enabled) open.push_back("die " + std::to_string(i));
-        for (std::size_t box = 0; box < 4 * rowCount; ++box) {
-            const ColumnCard& column = game.card.values[box / rowCount];
-            if (column.offered[box % rowCount] && column.enabled[box % rowCount])
-                open.push_back("box " + std::to_string(box / rowCount + 1) + ' ' + std::to_string(box % rowCount));
-        }
-        return open;
-    }
+    std::vector<std::string> OpenEvents() const { return ::OpenEvents(game); }
 
     // Plays at random until the game is over and calls after(event) each time.
     template <typename After>

@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "kit/qt_timers.h"
+
+namespace {
+
+TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
+    EventGate gate;
+    QtTimers timers(gate);
+    int ticks = 0;
+    timers.SetTick([&](Timer timer) {
+        ++ticks;
+        timers.Stop(timer);
+    });
+    gate.Run([&] {
+        timers.Start(Timer::tmrCounter, 1);
+        QTest::qWait(40);
+        EXPECT_EQ(ticks, 0);
+    });
+    QTest::qWait(40);
+    EXPECT_EQ(ticks, 1);
+    gate.Run([&] {
+        timers.Start(Timer::tmrCounter, 1);
+        const EventGate::Open modal(gate);
+        QTest::qWait(40);
+        EXPECT_EQ(ticks, 2);
+    });
+    gate.Run([&] {
+        timers.Start(Timer::tmrCounter, 1);
+        QTest::qWait(40);
+        timers.Stop(Timer::tmrCounter);
+    });
+    QTest::qWait(40);
+    EXPECT_EQ(ticks, 2);
+}
+
+TEST(Gate, OpensAgainAfterAHandlerThatFails) {
+    EventGate gate;
+    std::string ran;
+    EXPECT_THROW(gate.Run([&] {
+        gate.Run([&] { ran += "later "; });
+        throw std::runtime_error("a handler failed");
+    }),
+                 std::runtime_error);
+    EXPECT_FALSE(gate.Busy());
+    EXPECT_THROW(gate.Run([&] {
+        const EventGate::Open modal(gate);
+        throw std::runtime_error("a dialog failed");
+    }),
+                 std::runtime_error);
+    EXPECT_FALSE(gate.Busy());
+    gate.Run([&] { ran += "next "; });
+    QTest::qWait(1);
+    EXPECT_EQ(ran, "later next ");
+}
+
+TEST(Gate, LetsInOneAfterTheOther) {
+    EventGate gate;
+    std::string ran;
+    gate.Run([&] {
+        for (const char* name : {"1 ", "2 ", "3 "}) gate.Run([&ran, name] { ran += name; });
+        QTest::qWait(5);
+        ran += "0 ";
+    });
+    EXPECT_EQ(ran, "0 ");
+    QTest::qWait(5);
+    EXPECT_EQ(ran, "0 1 2 3 ");
+}
+
+}  // namespace

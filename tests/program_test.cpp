@@ -1,0 +1,157 @@
+#include "app/program.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "core/end_of_game.h"
+#include "core/show.h"
+#include "core/timing.h"
+#include "tests/readable.h"
+
+namespace {
+
+// The program with its real ports, but for the desktop, in a folder that holds its settings too.
+struct RunningProgram {
+    explicit RunningProgram(const GameSettings& settings = {}) {
+        program.game.settings = settings;
+        program.ShowMainWindow();
+        (void)QTest::qWaitForWindowExposed(&program.window);
+        answerer.callOnTimeout([] {
+            if (QWidget* modal = QApplication::activeModalWidget()) QTest::keyClick(modal, Qt::Key_Return);
+        });
+        answerer.start(5);
+    }
+
+    static QString Prepared(const QString& folder) {
+        QDir(folder).mkdir("scores");
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+        return folder + '/';
+    }
+
+    QTemporaryDir folder;
+    Art art;
+    Program program{Prepared(folder.path()).toStdString(), art};
+    Game& game = program.game;
+    QTimer answerer;  // says yes to every question
+};
+
+TEST(Program, SendsEachTimerItsOwnWay) {
+    RunningProgram running;
+    Program& p = running.program;
+    const struct {
+        Timer timer;
+        std::function<bool()> ticked;
+    } told[] = {{Timer::tmrRollDice, [&] { return p.game.table.panels[2].text == "Roll the dice"; }},
+                {Timer::tmrTimeElapsed, [&] { return p.game.table.panels[5].text == "00:00:01"; }},
+                {Timer::tmrGameOver, [&] { return p.game.table.panels[4].text.empty(); }},
+                {Timer::tmrAnimation, [&] { return p.game.card[ScoreColumn::Rand].offered[6]; }},
+                {Timer::tmrCounter, [&] { return p.game.session.CounterRan; }},
+                {Timer::Timer3, [&] { return p.music.SecondSongNext; }},
+                {Timer::Timer4, [&] { return p.music.IntroTickSeen; }}};
+    for (Timer timer : allTimers) DisableTimer(p.game, timer);
+    for (int panel : {2, 4, 5}) SetPanelText(p.game, panel, "before");
+    p.parts.StartTableAnimation(p.game);
+    DisableTimer(p.game, Timer::tmrAnimation);
+    for (ScoreColumn column : allColumns) ShowColumnButtons(p.game, column, false);
+    p.game.session.CounterRan = false;
+    for (const auto& [timer, ticked] : told) {
+        EXPECT_FALSE(ticked()) << timerNames[timer];
+        SetTimerInterval(p.game, timer, 1);
+        EnableTimer(p.game, timer);
+        EXPECT_TRUE(QTest::qWaitFor(ticked, 2000)) << timerNames[timer];
+        DisableTimer(p.game, timer);
+    }
+}
+
+struct MoveLog final : QObject {
+    int moves = 0;
+
+    MoveLog() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        moves += event->type() == QEvent::MouseMove && object->isWidgetType();
+        return false;
+    }
+};
+
+TEST(Program, KeepsTheMouseWaitingWhileTheDiceRoll) {
+    RunningProgram running;
+    frmLuckyCup& window = running.program.window;
+    const auto die = [&](int i) {
+        const auto* control = window.findChild<QWidget*>("picDice_" + QString::number(i));
+        return control->mapTo(&window, control->rect().center());
+    };
+    QCursor::setPos(window.mapToGlobal(QPoint(2, 100)));
+    QCoreApplication::processEvents();
+    MoveLog log;
+    QTimer::singleShot(100, &window, [&] { QCursor::setPos(window.mapToGlobal(die(1))); });
+    QTimer::singleShot(300, &window, [&] {
+        EXPECT_EQ(log.moves, 0);
+        // One that gets past the event loop waits at the gate.
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, die(0));
+        EXPECT_TRUE(running.game.dice.RollFlags[0]);
+        EXPECT_EQ(running.game.session.RollCount, 0);
+    });
+    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_GT(log.moves, 0);
+    EXPECT_EQ(running.game.session.RollCount, 1);
+    EXPECT_EQ(running.game.dice.RollFlags, (ByDie<bool>{{false, true, true, true, true, true}}));
+}
+
+TEST(Program, RollsOtherDiceInEachGame) {
+    ByDie<int> dice[2];
+    for (ByDie<int>& rolled : dice) {
+        RunningProgram running;
+        QTest::keyClick(running.program.window.windowHandle(), Qt::Key_Return);
+        rolled = running.game.dice.DiceValues;
+    }
+    EXPECT_FALSE(dice[0] == dice[1]) << "one in 46,656 by chance";
+
+    const auto numbers = [](double timeOfDay) {
+        SeededRandom random;
+        random.Next();
+        random.Reseed(timeOfDay);
+        std::vector<double> drawn(50);
+        for (double& number : drawn) number = random.Next();
+        return drawn;
+    };
+    constexpr double millisecond = 1.0 / (24 * 60 * 60 * 1000);
+    EXPECT_TRUE(numbers(0.25) == numbers(0.25));
+    EXPECT_FALSE(numbers(0.25) == numbers(0.25 + millisecond));
+}
+
+TEST(Program, HoldsTheMusicWhileMinimisedAndSavesWhenItCloses) {
+    RunningProgram running({.Player1 = "Ann", .BGMusicEnabled = true, .BGMusicVolume = 321});
+    const auto watches = [&] { return running.game.table.timers[Timer::Timer3].enabled; };
+    EXPECT_TRUE(watches());
+    running.program.window.showMinimized();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !watches(); }, 1000));
+    running.program.window.showNormal();
+    EXPECT_TRUE(QTest::qWaitFor(watches, 1000));
+    EXPECT_TRUE(running.program.window.close());
+    const GameSettings saved = RegistrySettings().LoadSettings();
+    EXPECT_TRUE(saved == running.game.settings);
+}
+
+TEST(Program, RecordsEachGameInTheFileOfItsKind) {
+    const struct {
+        int columns, lastDie;
+        const char* file;
+    } kinds[] = {{4, 5, "scores1.dat"}, {4, 4, "scores2.dat"}, {1, 5, "scores3.dat"}, {1, 4, "scores4.dat"}};
+    for (const auto& [columns, lastDie, file] : kinds) {
+        RunningProgram running({.NumberOfDice = lastDie, .NumberOfColumns = columns, .Player1 = "Ann"});
+        running.game.session.Total = 1234;
+        running.program.gate.Run([&] { GameOver(running.game); });
+        const QDir scores(running.folder.filePath("scores"));
+        EXPECT_EQ(scores.entryList(QDir::Files).join(' ').toStdString(), file);
+        QFile written(scores.filePath(file));
+        ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+        const QByteArray first = written.readAll().first(100);
+        EXPECT_TRUE(first.contains("Ann") && first.contains("\xD2\x04")) << file;
+    }
+}
+
+}  // namespace
