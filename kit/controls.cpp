@@ -9,7 +9,7 @@
 QFont TableFont(bool bold, int pixels) {
     QFont font;
     font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
-    font.setPixelSize(SizedLetters(pixels));
+    font.setPixelSize(SizedDown(pixels));
     font.setBold(bold);
     return font;
 }
@@ -21,7 +21,7 @@ QFont BoxFont() {
 }
 
 QFont FittedFont(QFont font, const QString& text, int width) {
-    const int smallest = SizedLetters(7);
+    const int smallest = SizedDown(7);
     while (font.pixelSize() > smallest && QFontMetrics(font).horizontalAdvance(text) > width)
         font.setPixelSize(font.pixelSize() - 1);
     return font;

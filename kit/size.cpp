@@ -16,7 +16,7 @@ bool IsSize(int percent) {
 qreal Sized(qreal pixels) { return pixels * current / toldSize; }
 int Sized(int pixels) { return qRound(Sized(qreal(pixels))); }
 QSize Sized(QSize pixels) { return {Sized(pixels.width()), Sized(pixels.height())}; }
-int SizedLetters(int pixels) { return qFloor(Sized(qreal(pixels))); }
+int SizedDown(int pixels) { return qFloor(Sized(qreal(pixels))); }
 
 int FittingSize(int wanted, QSize inside, QSize frame, QSize area) {
     const QSize room = (area - frame) * toldSize;

@@ -15,8 +15,8 @@ bool IsSize(int percent);
 int Sized(int pixels);
 qreal Sized(qreal pixels);
 QSize Sized(QSize pixels);
-// The same for the height of letters. Rounded down, so that a text which fits its place does so at every size.
-int SizedLetters(int pixels);
+// The same rounded down, for letters and lines, so that what fits its place does so at every size.
+int SizedDown(int pixels);
 
 // The largest step up to the wanted one at which the inside of a window, which has so many pixels at the told size,
 // fits an area with the frame around it, which does not grow. The smallest step when none does.

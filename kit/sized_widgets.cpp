@@ -32,7 +32,7 @@ void KeepLetters(QWidget& widget) {
     const QVariant letters = widget.property(lettersKey);
     if (!letters.isValid()) return;
     QFont font = widget.font();
-    font.setPixelSize(SizedLetters(letters.toInt()));
+    font.setPixelSize(SizedDown(letters.toInt()));
     widget.setFont(font);
 }
 
@@ -54,7 +54,7 @@ void FixSize(QWidget& widget, int width, int height) {
 
 void SetLetters(QWidget& widget, QFont font, int pixels) {
     widget.setProperty(lettersKey, pixels);
-    font.setPixelSize(SizedLetters(pixels));
+    font.setPixelSize(SizedDown(pixels));
     widget.setFont(font);
 }
 

@@ -142,7 +142,7 @@ void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const
 QFont GetMenuFont() {
     QFont font = QApplication::font("QMenu");
     if (font.family() == "Sans Serif") font.setFamilies(TableFont(false).families());
-    font.setPixelSize(SizedLetters(letterHeight));
+    font.setPixelSize(SizedDown(letterHeight));
     return font;
 }
 
@@ -150,7 +150,7 @@ MenuStyle::MenuStyle(Art& art, bool SkinOn) : QProxyStyle("Fusion"), art_(art), 
 
 QFont MenuStyle::Letters() const {
     QFont font = font_;
-    font.setPixelSize(SizedLetters(letterHeight));
+    font.setPixelSize(SizedDown(letterHeight));
     return font;
 }
 

@@ -3,20 +3,22 @@
 #include <sstream>
 
 #include "core/hints.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 #include "table/set_controls.h"
 #include "tests/window_table.h"
 
 namespace {
 
-// Where a control stands within what holds it, in twips, each edge rounded by itself. Without a width or a height it is
-// a line, or hidden and anywhere.
+// Where a control stands within what holds it, in twips of the told size, each edge rounded by itself. Without a width
+// or a height it is a line, or hidden and anywhere.
 struct Told {
     QString name;
     int left, top, width, height;
     bool shown = true;
 
     QRect InPixels() const {
-        const auto pixels = [](int twips) { return static_cast<int>(std::lround(twips / 15.0)); };
+        const auto pixels = [](int twips) { return static_cast<int>(std::lround(twips * Size() / 1500.0)); };
         const int within = width && height ? 1 : 0;  // the end of a line belongs to it
         return {QPoint(pixels(left), pixels(top)),
                 QPoint(pixels(left + width) - within, pixels(top + height) - within)};
@@ -164,6 +166,18 @@ TEST(Layout, OfEachVariantIsAsToldWhateverCameBefore) {
         SetControls(changed.game);
         ShowHintColumn(changed.game);
         ExpectPlaces(changed);
+    }
+}
+
+TEST(Layout, IsTheToldOneTimesTheSize) {
+    for (const int bits : {0, 7}) {
+        WindowTable t(VariantOf(bits));
+        for (const int percent : {75, 100, 125, 150, 175, 200, 225, 250, 275, 300, 225, 100}) {
+            SCOPED_TRACE(percent);
+            ChangeSize(percent);
+            ExpectPlaces(t);
+            ExpectRowsInLine(t);
+        }
     }
 }
 

@@ -153,7 +153,7 @@ void frmScores2::FitResult() {
 }
 
 void frmScores2::FitList() {
-    const int row = Sized(rowHeight);
+    const int row = SizedDown(rowHeight);
     LVScores_->verticalHeader()->setMinimumSectionSize(row);
     LVScores_->verticalHeader()->setDefaultSectionSize(row);
     const int rowsHeight = 2 * LVScores_->frameWidth() + scoreRecords * row;

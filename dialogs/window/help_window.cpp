@@ -85,7 +85,7 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
 void HelpWindow::FitToSize() {
     SetLetters(*text_, TableFont(false), letters_);
     auto* document = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, text_->font(), colours, html_, text_);
-    document->setDocumentMargin(SizedLetters(letters_));
+    document->setDocumentMargin(SizedDown(letters_));
     ShowInPlace(*text_, document);
     find_->setFixedWidth(Sized(contentsWidth));
 }
