@@ -35,7 +35,13 @@ install_packages() {
 
 # build PRESET TESTS [ARGUMENT...]: TESTS is ON or OFF, the arguments are those of cmake --build.
 build() {
-    local fresh=()
+    local fresh=() foreign
+    # One that root has built, perhaps; CMake would end in the middle.
+    foreign=build
+    if mkdir -p "build/$1" 2>/dev/null; then foreign=$(find "build/$1" -maxdepth 1 ! -writable -print -quit); fi
+    if [[ $foreign ]]; then
+        die "$(id -un) cannot write to $PWD/$foreign; remove build, or take it over: sudo chown -R $(id -un) build"
+    fi
     # A tree that was built before the checkout was moved or copied is of no use here.
     if ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$1/CMakeCache.txt" 2>/dev/null; then fresh=(--fresh); fi
     cmake --preset "$1" "${fresh[@]}" -DLUCKYCUP_BUILD_TESTS="$2" >/dev/null

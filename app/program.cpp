@@ -1,15 +1,14 @@
 #include "app/program.h"
 
 #include "app/tick.h"
-#include "core/program_folder.h"
 #include "core/start.h"
 
-Program::Program(const std::string& programFolder, Art& pictures)
+Program::Program(const ProgramFiles& files, Art& pictures)
     : art(pictures),
-      sound(programFolder, clock),
-      scores(ScoresFolder(programFolder)),
-      shell(programFolder, ScoresFolder(programFolder), pictures) {
-    game.session.AppPath = programFolder;
+      sound(files.plugIns, files.data, clock),
+      scores(files.scores),
+      shell(files.data, files.scores, pictures) {
+    game.session.AppPath = files.data;
     window.SetMenuStyle(menuStyle);
     dialogs.SetShowMainWindow([this] { ShowMainWindow(); });
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/desktop_shell.h"
+#include "app/program_files.h"
 #include "app/seeded_random.h"
 #include "core/game.h"
 #include "dialogs/window/qt_dialogs.h"
@@ -18,8 +19,8 @@
 
 // All that stands behind one table, each made before what it is handed to.
 struct Program {
-    // programFolder ends in the separator. The pictures outlive the program.
-    Program(const std::string& programFolder, Art& pictures);
+    // The pictures outlive the program.
+    Program(const ProgramFiles& files, Art& pictures);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

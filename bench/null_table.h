@@ -1,20 +1,23 @@
 #pragma once
 
-#include <random>
+#include <cstdint>
 
 #include "core/end_of_game.h"
 #include "core/silent_ports.h"
 #include "table/main_window.h"
 #include "table/table_parts.h"
 
-// Keeps its sequence when the game re-seeds, so that every run plays the same games.
+// Keeps its sequence when the game re-seeds, so that every run plays the same games. Cheap, for a game asks for some
+// thousand numbers, and it is the game that is measured.
 struct SteadyRandom final : RandomSource {
-    explicit SteadyRandom(unsigned seed) : engine(seed) {}
+    explicit SteadyRandom(unsigned seed) : state(seed) {}
     void Reseed(double) override {}
-    double Next() override { return uniform(engine); }
+    double Next() override {
+        state = state * 6364136223846793005U + 1442695040888963407U;
+        return static_cast<double>(state >> 11) * 0x1p-53;
+    }
 
-    std::minstd_rand engine;
-    std::uniform_real_distribution<double> uniform{0.0, 1.0};
+    std::uint64_t state;
 };
 
 struct FinishingDialogs final : SilentDialogs {

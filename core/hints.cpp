@@ -5,18 +5,13 @@
 
 void ShowHints(Game& game) {
     GameSession& session = game.session;
-    session.ComputeOnly = true;
-    const auto lying = game.dice.DiceValues;
-    SortDice(game.dice);
     // The announced box always keeps a tip, be it the value worked out last, which may be another row's.
     if (game.card[ScoreColumn::Oblg].offered[session.CurrentRow] && session.RollCount > 1)
         SetTipText(game, session.CurrentRow, std::to_string(session.RowScore));
-    for (int row = 0; row < rowCount; ++row) {
-        ScoreRowOf(game, row);
-        if (session.RowScore > 0 && RowOffered(game.card, row)) SetTipText(game, row, std::to_string(session.RowScore));
-    }
-    game.dice.DiceValues = lying;
-    session.ComputeOnly = false;
+    const ByRow<int> values = RowValues(game.dice);
+    for (int row = 0; row < rowCount; ++row)
+        if (values[row] > 0 && RowOffered(game.card, row)) SetTipText(game, row, std::to_string(values[row]));
+    session.RowScore = values[rowLuckyCup];
 }
 
 void ShowHintColumn(Game& game) { ShowTipColumn(game, game.settings.hintAllways || game.session.HintsRequested); }

@@ -45,6 +45,10 @@ int HighestOf(const FaceCounts& counts, int atLeast) {
     return 0;
 }
 
+int UpperValue(const FaceCounts& counts, int face) { return face * std::min(scoredDice, counts[face]); }
+int MaxValue(const FaceCounts& counts) { return SumOfHighest(counts, scoredDice); }
+int MinValue(const FaceCounts& counts) { return SumOfLowest(counts, scoredDice); }
+
 // So many equal dice and the highest of the others, five dice in all, and the bonus of the row.
 int EqualDiceValue(FaceCounts counts, int equal, int bonus) {
     const int face = HighestOf(counts, equal);
@@ -52,6 +56,10 @@ int EqualDiceValue(FaceCounts counts, int equal, int bonus) {
     counts[face] -= equal;
     return equal * face + SumOfHighest(counts, scoredDice - equal) + bonus;
 }
+
+int ThreeOfAKindValue(const FaceCounts& counts) { return EqualDiceValue(counts, 3, 10); }
+int FourOfAKindValue(const FaceCounts& counts) { return EqualDiceValue(counts, 4, 30); }
+int FiveOfAKindValue(const FaceCounts& counts) { return HighestOf(counts, 5) > 0 ? luckyCupPoints : 0; }
 
 int FullHouseValue(const FaceCounts& counts) {
     int best = 0;
@@ -124,26 +132,28 @@ void Score(Game& game, Value value, void (*write)(Game&)) {
 
 }  // namespace
 
+ByRow<int> RowValues(const DiceSet& dice) {
+    const FaceCounts counts = CountFaces(dice);
+    ByRow<int> values;
+    for (int face = 1; face <= facesOfADie; ++face) values[face - 1] = UpperValue(counts, face);
+    values[rowMax] = MaxValue(counts);
+    values[rowMin] = MinValue(counts);
+    values[rowThreeOfAKind] = ThreeOfAKindValue(counts);
+    values[rowFullHouse] = FullHouseValue(counts);
+    values[rowStraight] = StraightValue(counts);
+    values[rowFourOfAKind] = FourOfAKindValue(counts);
+    values[rowLuckyCup] = FiveOfAKindValue(counts);
+    return values;
+}
+
 void ScoreUpperRow(Game& game, int face) {
     Score(
-        game, [face](const FaceCounts& counts) { return face * std::min(scoredDice, counts[face]); }, WriteUpperRow);
+        game, [face](const FaceCounts& counts) { return UpperValue(counts, face); }, WriteUpperRow);
 }
 
-void ScoreMax(Game& game) {
-    Score(
-        game, [](const FaceCounts& counts) { return SumOfHighest(counts, scoredDice); }, WriteMaxOrMin);
-}
-
-void ScoreMin(Game& game) {
-    Score(
-        game, [](const FaceCounts& counts) { return SumOfLowest(counts, scoredDice); }, WriteMaxOrMin);
-}
-
-void ScoreThreeOfAKind(Game& game) {
-    Score(
-        game, [](const FaceCounts& counts) { return EqualDiceValue(counts, 3, 10); }, WriteLowerRow);
-}
-
+void ScoreMax(Game& game) { Score(game, MaxValue, WriteMaxOrMin); }
+void ScoreMin(Game& game) { Score(game, MinValue, WriteMaxOrMin); }
+void ScoreThreeOfAKind(Game& game) { Score(game, ThreeOfAKindValue, WriteLowerRow); }
 void ScoreFullHouse(Game& game) { Score(game, FullHouseValue, WriteLowerRow); }
 
 // The one row that leaves the dice in the order that it found.
@@ -153,15 +163,8 @@ void ScoreStraight(Game& game) {
     game.dice.DiceValues = lying;
 }
 
-void ScoreFourOfAKind(Game& game) {
-    Score(
-        game, [](const FaceCounts& counts) { return EqualDiceValue(counts, 4, 30); }, WriteLowerRow);
-}
-
-void ScoreFiveOfAKind(Game& game) {
-    Score(
-        game, [](const FaceCounts& counts) { return HighestOf(counts, 5) > 0 ? luckyCupPoints : 0; }, WriteLowerRow);
-}
+void ScoreFourOfAKind(Game& game) { Score(game, FourOfAKindValue, WriteLowerRow); }
+void ScoreFiveOfAKind(Game& game) { Score(game, FiveOfAKindValue, WriteLowerRow); }
 
 void ScoreRowOf(Game& game, int row) {
     using Routine = void (*)(Game&);

@@ -163,12 +163,9 @@ Turn RollDice(Game& game) {
 
 void PlayFanfare(Game& game) {
     if (!game.session.SoundOn || !RowOffered(game.card, rowLuckyCup)) return;
-    const auto lying = game.dice.DiceValues;
-    SortDice(game.dice);
     game.session.ComputeOnly = true;
     ScoreFiveOfAKind(game);
     game.session.ComputeOnly = false;
-    game.dice.DiceValues = lying;
     if (game.session.RowScore == luckyCupPoints) game.effects.PlayEffect("LuckyCup");
 }
 

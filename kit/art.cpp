@@ -1,6 +1,7 @@
 #include "kit/art.h"
 
 #include <QSvgRenderer>
+#include <system_error>
 
 // The resources lie in a static library, which the linker would take without them. The macro must not stand in a
 // namespace.
@@ -28,11 +29,16 @@ QSize Art::ToldSize(const QString& name) { return QSvgRenderer(":/art/" + name +
 
 void Art::RenderAhead(std::vector<Wanted> pictures) {
     for (const auto& [name, size] : pictures) wantedAhead_.insert(KeyOf(name, size));
-    ahead_ = std::async(std::launch::async, [pictures = std::move(pictures)] {
+    const auto renderAll = [pictures = std::move(pictures)] {
         QHash<QString, QImage> images;
         for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
         return images;
-    });
+    };
+    try {
+        ahead_ = std::async(std::launch::async, renderAll);
+    } catch (const std::system_error&) {
+        // No thread to be had: each picture is rendered when it is first wanted.
+    }
 }
 
 // Only who wants one of them waits for them.

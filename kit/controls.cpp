@@ -2,6 +2,7 @@
 
 #include <QTextOption>
 #include <algorithm>
+#include <utility>
 
 #include "kit/size.h"
 #include "kit/twips.h"
@@ -110,12 +111,16 @@ void PictureButton::SetLooks(const Looks& looks) {
     update();
 }
 
+void PictureButton::SetMarked(std::optional<bool> on) {
+    if (std::exchange(marked_, on) != on) update();
+}
+
 void PictureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QString& wanted = !isEnabled()   ? looks_.disabled
-                            : isDown()     ? looks_.pressed
-                            : underMouse() ? looks_.underMouse
-                                           : looks_.plain;
+    const QString& wanted = !isEnabled()                     ? looks_.disabled
+                            : isDown()                       ? looks_.pressed
+                            : marked_.value_or(underMouse()) ? looks_.underMouse
+                                                             : looks_.plain;
     art_.Draw(painter, rect(), wanted.isEmpty() ? looks_.plain : wanted);
 }
 

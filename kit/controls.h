@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <functional>
+#include <optional>
 
 #include "kit/art.h"
 
@@ -109,6 +110,10 @@ public:
     PictureButton(const QString& name, QWidget* parent, Art& art, const Looks& looks);
     void SetLooks(const Looks& looks);
     const Looks& ShownLooks() const { return looks_; }
+    // The mark of a player without a mouse is on this button, or on another; nothing: there is none. The marked button
+    // alone has the look under the mouse, wherever the mouse is.
+    void SetMarked(std::optional<bool> on);
+    bool Marked() const { return marked_.value_or(false); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -118,6 +123,7 @@ protected:
 private:
     Art& art_;
     Looks looks_;
+    std::optional<bool> marked_;
 };
 
 // A raised push button with a golden edge and a caption that wraps.

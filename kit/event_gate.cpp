@@ -3,12 +3,18 @@
 #include <utility>
 
 void EventGate::Run(Handler handler) {
+    if (shut_) return;
     if (Busy()) {
         waiting_.push_back(std::move(handler));
         return;
     }
     while (!waiting_.empty()) RunFirstWaiting();
     Enter(handler);
+}
+
+void EventGate::Shut() {
+    shut_ = true;
+    waiting_.clear();
 }
 
 void EventGate::Enter(const Handler& handler) {

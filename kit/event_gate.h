@@ -13,6 +13,7 @@ public:
 
     void Run(Handler handler);
     bool Busy() const { return depth_ > 0; }
+    void Shut();  // lets nothing in any more and drops what waits
 
     // Stands around the event loop of a modal window.
     class Open {
@@ -42,5 +43,6 @@ private:
     void RunFirstWaiting();
 
     int depth_ = 0;
+    bool shut_ = false;
     std::deque<Handler> waiting_;
 };

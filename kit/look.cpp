@@ -49,10 +49,14 @@ void ApplyLook() {
     QApplication::setPalette(palette);
     ApplyFonts();
     QCoreApplication::setApplicationName("LuckyCup");
+    QGuiApplication::setDesktopFileName("luckycup");
 }
 
 void ApplyFonts() {
+    // The menus keep the desktop's own font, which the next line would take from them.
+    const QFont menuFont = QApplication::font("QMenu");
     QApplication::setFont(TableFont(false));
+    for (const char* menu : {"QMenu", "QMenuBar"}) QApplication::setFont(menuFont, menu);
     QToolTip::setFont(TableFont(false));
 }
 

@@ -26,6 +26,20 @@ QString PictureOf(MessageIcon icon) {
     return {};
 }
 
+const char* SpokenIcon(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::Question:
+            return "Question";
+        case MessageIcon::Warning:
+            return "Warning";
+        case MessageIcon::Stop:
+            return "Stop";
+        case MessageIcon::Information:
+            return "Information";
+    }
+    return "";
+}
+
 void WrapText(const QMessageBox& box) {
     auto* label = box.findChild<QLabel*>("qt_msgbox_label");
     if (!label) return;
@@ -46,6 +60,8 @@ Answer ShowMessageBox(QWidget* parent, Art& art, const Message& message) {
     box.setDefaultButton(QMessageBox::Ok);
     for (QAbstractButton* button : box.buttons()) button->setIcon({});
     WrapText(box);
+    if (auto* icon = box.findChild<QLabel*>("qt_msgboxex_icon_label"))
+        icon->setAccessibleName(SpokenIcon(message.icon));
     const int button = box.exec();
     return mayCancel && button != QMessageBox::Ok ? Answer::Cancel : Answer::Ok;
 }

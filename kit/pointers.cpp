@@ -1,10 +1,11 @@
 #include "kit/pointers.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QWidget>
+
+#include "kit/regular_file.h"
 
 namespace {
 constexpr QSize pointerSize(32, 32);
@@ -13,6 +14,8 @@ constexpr QPoint handHotSpot(15, 7);
 // In a pointer file the hot spot stands in the first entry of its directory, two little-endian words.
 constexpr int hotSpotAt = 10;
 constexpr int directoryEnd = 22;
+
+constexpr qint64 longestPointer = 64 << 10;  // bytes; more than a picture of 96 by 96 needs
 
 // Qt hands the X server the hot spot as it stands, though the picture there is in device pixels.
 QCursor PointerOf(const QPixmap& picture, QPoint hotSpot) {
@@ -30,9 +33,7 @@ QCursor HandPointer(Art& art, qreal devicePixelRatio) {
 }
 
 void SetBasePointer(QWidget& window, const QString& programFolder) {
-    QFile file(programFolder + "base.cur");
-    if (!file.open(QIODevice::ReadOnly)) return;
-    QByteArray bytes = file.readAll();
+    QByteArray bytes = StartOfFile(programFolder + "base.cur", longestPointer);
     if (bytes.size() < directoryEnd) return;
     QBuffer buffer(&bytes);
     const QImage image = QImageReader(&buffer, "cur").read();

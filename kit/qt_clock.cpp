@@ -1,9 +1,25 @@
 #include "kit/qt_clock.h"
 
-#include <QDate>
 #include <QEventLoop>
-#include <QLocale>
 #include <QTimer>
+#include <algorithm>
+
+namespace {
+
+// What dates are written with in that set are printable characters that have the same number in Unicode.
+bool FitsRecord(const QString& text) {
+    constexpr qsizetype places = 10;
+    return text.size() <= places &&
+           std::ranges::all_of(text, [](QChar c) { return c.isPrint() && c.unicode() <= 0xFF; });
+}
+
+}  // namespace
+
+QString ShortDateText(const QLocale& locale, QDate date) {
+    const QDate longest(2000, 12, 28);  // two digits for day and month
+    const bool fits = FitsRecord(locale.toString(longest, QLocale::ShortFormat));
+    return fits ? locale.toString(date, QLocale::ShortFormat) : date.toString(Qt::ISODate);
+}
 
 void QtClock::Wait(int ms) {
     QEventLoop loop;
@@ -16,10 +32,4 @@ double QtClock::TimeOfDay() {
     return QTime::currentTime().msecsSinceStartOfDay() / day;
 }
 
-std::string QtClock::ShortDate() {
-    const QLocale locale = QLocale::system();
-    const QDate today = QDate::currentDate();
-    // Where no language is set up there is no short date either: what Qt offers does not fit a score record.
-    if (locale.language() == QLocale::C) return today.toString(Qt::ISODate).toStdString();
-    return locale.toString(today, QLocale::ShortFormat).toStdString();
-}
+std::string QtClock::ShortDate() { return ShortDateText(QLocale::system(), QDate::currentDate()).toStdString(); }

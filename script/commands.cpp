@@ -61,9 +61,15 @@ constexpr SetUp setUps[] = {
     {"set", Set}, {"seed", Seed}, {"faces", Faces}, {"answer", Answers}, {"media", Media},
 };
 
+BadLine UnknownCommand(std::string_view command) {
+    std::string name(command);
+    std::ranges::replace(name, '\0', '?');  // which would end the text of the error
+    return BadLine("unknown command '" + name + '\'');
+}
+
 void RunLine(ScriptTable& script, const ScriptLine& line, std::ostream& out) {
     if (line.Empty() || RunSetUp(script, line)) return;
-    if (!IsEvent(line.Command())) throw BadLine("unknown command '" + std::string(line.Command()) + '\'');
+    if (!IsEvent(line.Command())) throw UnknownCommand(line.Command());
 
     script.table.log.clear();
     const bool done = RunEvent(script, line);
@@ -82,13 +88,22 @@ bool RunSetUp(ScriptTable& script, const ScriptLine& line) {
 int RunScript(std::istream& in, std::ostream& out, std::ostream& err) {
     ScriptTable script;
     std::string text;
-    for (std::size_t number = 1; std::getline(in, text); ++number) {
+    for (std::size_t number = 1; out && std::getline(in, text); ++number) {
         try {
             RunLine(script, ScriptLine(text), out);
         } catch (const BadLine& bad) {
+            if (!out.flush()) break;
             err << "line " << number << ": " << bad.what() << '\n';
             return 2;
         }
+    }
+    if (!out.flush()) {
+        err << "cannot write the output\n";
+        return 1;
+    }
+    if (!in.eof()) {
+        err << "cannot read the input\n";
+        return 1;
     }
     return 0;
 }

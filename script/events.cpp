@@ -2,17 +2,14 @@
 
 #include <algorithm>
 
-#include "core/box_click.h"
 #include "core/hints.h"
 #include "core/new_game.h"
-#include "core/redo.h"
 #include "core/timer.h"
 #include "core/turn.h"
-#include "core/two_players.h"
-#include "core/undo.h"
 #include "script/options_changes.h"
 #include "table/commands.h"
 #include "table/main_window.h"
+#include "table/presses.h"
 
 namespace {
 
@@ -25,7 +22,7 @@ bool Start(ScriptTable& script, const ScriptLine&) {
 
 bool Roll(ScriptTable& script, const ScriptLine&) {
     Game& game = script.table.game;
-    if (!game.table.roll.visible || !game.table.roll.enabled) return false;
+    if (!RollOpen(game)) return false;
     picRollDices_MouseDown(game);
     picRollDices_MouseUp(game);
     return true;
@@ -38,15 +35,7 @@ bool Key(ScriptTable& script, const ScriptLine& line) {
 }
 
 bool Die(ScriptTable& script, const ScriptLine& line) {
-    const int i = ParseNumber(line.Value(1), 0, maxDice - 1);
-    Game& game = script.table.game;
-    const DieState& die = game.table.dice[i];
-    if (!die.shown || !die.enabled) return false;
-    if (die.held)
-        PicDiceOff_Click(game, i);
-    else
-        picDice_Click(game, i);
-    return true;
+    return PressDie(script.table.game, ParseNumber(line.Value(1), 0, maxDice - 1));
 }
 
 struct BoxButton {
@@ -54,7 +43,7 @@ struct BoxButton {
         : column(static_cast<ScoreColumn>(ParseNumber(line.Value(1), 1, 4))),
           row(ParseNumber(line.Value(2), 0, rowCount - 1)) {}
 
-    bool TakesInput(const Game& game) const { return game.card[column].offered[row] && game.card[column].enabled[row]; }
+    bool TakesInput(const Game& game) const { return BoxOpen(game, column, row); }
     bool& Hovered(ScriptTable& script) const { return script.hovered[column][row]; }
 
     ScoreColumn column;
@@ -63,9 +52,7 @@ struct BoxButton {
 
 bool Box(ScriptTable& script, const ScriptLine& line) {
     const BoxButton button(line);
-    if (!button.TakesInput(script.table.game)) return false;
-    ClickBox(script.table.game, button.column, button.row);
-    return true;
+    return PressBox(script.table.game, button.column, button.row);
 }
 
 bool Hover(ScriptTable& script, const ScriptLine& line) {
@@ -84,45 +71,17 @@ bool Leave(ScriptTable& script, const ScriptLine& line) {
     return true;
 }
 
-bool Next(ScriptTable& script, const ScriptLine&) {
-    Game& game = script.table.game;
-    if (!game.table.nextPlayer) return false;
-    cmdNextPlayer_MouseUp(game);
-    return true;
-}
-
-bool Board(ScriptTable& script, const ScriptLine&) {
-    Game& game = script.table.game;
-    if (!game.table.showBoard.visible || !game.table.showBoard.enabled) return false;
-    cmdShowNextBoard_Click(game);
-    return true;
-}
-
-bool Undo(ScriptTable& script, const ScriptLine&) {
-    Game& game = script.table.game;
-    if (!game.table.undo) return false;
-    mnuUndoUndo_Click(game);
-    return true;
-}
-
-bool Redo(ScriptTable& script, const ScriptLine&) {
-    Game& game = script.table.game;
-    if (!game.table.redo) return false;
-    mnuUndoRedo_Click(game);
-    return true;
-}
+bool Next(ScriptTable& script, const ScriptLine&) { return PressNextPlayer(script.table.game); }
+bool Board(ScriptTable& script, const ScriptLine&) { return PressShowBoard(script.table.game); }
+bool Undo(ScriptTable& script, const ScriptLine&) { return PressUndo(script.table.game); }
+bool Redo(ScriptTable& script, const ScriptLine&) { return PressRedo(script.table.game); }
 
 bool New(ScriptTable& script, const ScriptLine&) {
     mnuNewGame_Click(script.table.game);
     return true;
 }
 
-bool Hint(ScriptTable& script, const ScriptLine&) {
-    Game& game = script.table.game;
-    if (!game.table.hintButton) return false;
-    tbHint_Click(game);
-    return true;
-}
+bool Hint(ScriptTable& script, const ScriptLine&) { return PressHint(script.table.game); }
 
 // The menu entries of a choice; the one that is in force is hidden.
 struct ChoiceEntry {
@@ -160,12 +119,14 @@ bool Options(ScriptTable& script, const ScriptLine& line) {
     return true;
 }
 
+constexpr int mostTicks = 1'000'000;  // the log of one event is kept until its line is written
+
 bool Tick(ScriptTable& script, const ScriptLine& line) {
     const auto name = std::ranges::find(timerNames, line.Value(1));
     if (name == timerNames.end()) throw BadArgument();
     const auto timer = static_cast<Timer>(name - timerNames.begin());
-    std::uint64_t ticks = 1;
-    if (line.Values() == 2) ticks = ParseNumber(line.Value(2), ticks, UINT64_MAX);
+    int ticks = 1;
+    if (line.Values() == 2) ticks = ParseNumber(line.Value(2), ticks, mostTicks);
 
     const TimerState& state = script.table.game.table.timers[timer];
     if (!state.enabled) return false;

@@ -58,6 +58,7 @@ OptionsChange ParseOptionsChange(std::string_view pair) {
 
 OptionsVisit ParseOptionsChanges(const std::vector<std::string_view>& pairs) {
     std::vector<OptionsChange> changes;
+    changes.reserve(pairs.size());
     for (std::string_view pair : pairs) changes.push_back(ParseOptionsChange(pair));
     return [changes = std::move(changes)](Game& game, OptionsForm& form) {
         for (const OptionsChange& change : changes) change.control->change(game, form, change.wanted);

@@ -1,15 +1,25 @@
 #include "store/settings_store.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 
 #include "core/leading_number.h"
 #include "core/overloaded.h"
 #include "core/setting_fields.h"
+#include "store/replace_file.h"
 
 namespace {
+
+#ifdef Q_OS_WIN
+constexpr bool keptInFile = false;  // but in the registry
+#else
+constexpr bool keptInFile = true;
+#endif
 
 // The number that a stored text stands for; -1 when it is none.
 int StoredNumber(const std::string& text, const NumberSetting& setting) {
@@ -33,15 +43,6 @@ void Read(const std::string& text, bool GameSettings::*truth, GameSettings& sett
     if (stored.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0) settings.*truth = false;
 }
 
-// On a full disk QSettings of Qt 6.4 puts an empty file in the place of the one that it could not write.
-bool DiskHasRoom(const QSettings& key, const GameSettings& settings) {
-    constexpr std::size_t allButNames = 1 << 16;
-    constexpr std::size_t widestEscape = 8;
-    const std::size_t needed = allButNames + widestEscape * (settings.Player1.size() + settings.Player2.size());
-    const QStorageInfo disk(QFileInfo(key.fileName()).path());
-    return !disk.isValid() || disk.bytesAvailable() >= static_cast<qint64>(needed);
-}
-
 std::string Stored(const NumberSetting& setting, const GameSettings& settings) {
     return std::to_string(settings.*setting.field);
 }
@@ -49,6 +50,53 @@ std::string Stored(bool GameSettings::*truth, const GameSettings& settings) {
     return settings.*truth ? "True" : "False";
 }
 std::string Stored(std::string GameSettings::*name, const GameSettings& settings) { return settings.*name; }
+
+constexpr qint64 longestStore = 16 << 20;  // names may be long
+
+// Empty for what cannot be read.
+QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(longestStore) : QByteArray();
+}
+
+bool CopyTo(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size();
+}
+
+bool IsStore(const QFileInfo& file) { return file.isFile() && file.size() <= longestStore; }
+
+void Write(QSettings& key, const NamedTexts& texts) {
+    for (const auto& [name, text] : texts) RegSetString(key, name, text);
+    key.sync();
+}
+
+bool Holds(const QSettings& key, const NamedTexts& texts) {
+    return std::ranges::all_of(texts, [&](const auto& entry) {
+        const QVariant value = key.value(QString::fromStdString(entry.first));
+        return value == QString::fromStdString(entry.second);
+    });
+}
+
+// In memory, where the system has such a folder for its users.
+QString FolderForDrafts() {
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return own.isEmpty() ? QDir::tempPath() : own;
+}
+
+// A store's bytes with the texts written into them, empty when that fails. QSettings would wait for locks beside the
+// file, and on a full disk of Qt 6.4 put an empty one in its place; so it is given a copy in a folder of its own, and
+// what it wrote is read back under another name, which it does not remember.
+QByteArray WithTexts(const QByteArray& store, const NamedTexts& texts) {
+    const QTemporaryDir folder(FolderForDrafts() + "/LuckyCup-XXXXXX");
+    const QString draft = folder.filePath("draft.conf");
+    const QString written = folder.filePath("written.conf");
+    if (!CopyTo(draft, store)) return {};
+    QSettings key(draft, QSettings::NativeFormat);
+    Write(key, texts);
+    if (!QFile::rename(draft, written)) return {};
+    return Holds(QSettings(written, QSettings::NativeFormat), texts) ? BytesOf(written) : QByteArray();
+}
 
 }  // namespace
 
@@ -63,30 +111,47 @@ void RegSetString(QSettings& key, std::string_view name, const std::string& text
     key.setValue(QLatin1String(name.data(), static_cast<qsizetype>(name.size())), QString::fromStdString(text));
 }
 
-RegistrySettings::RegistrySettings() : key_("LuckyCup", "LuckyCup2.2") {
-    key_.setFallbacksEnabled(false);  // what other keys and the system's own store hold is not the player's choice
+QString UserSettingsPath() {
+    if (!keptInFile) return "HKEY_CURRENT_USER\\Software\\LuckyCup\\LuckyCup2.2";
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/LuckyCup/LuckyCup2.2.conf";
 }
 
 GameSettings RegistrySettings::LoadSettings() {
     GameSettings settings;
-    if (RegGetString(key_, "NumberOfDice", "").empty()) return settings;
+    if (keptInFile && !IsStore(QFileInfo(path_))) return settings;
+    const QSettings key(path_, QSettings::NativeFormat);
+    if (RegGetString(key, "NumberOfDice", "").empty()) return settings;
 
     const auto readName = [&](const SettingField& field, std::string GameSettings::*name) {
-        settings.*name = RegGetString(key_, field.name, settings.*name);
+        settings.*name = RegGetString(key, field.name, settings.*name);
     };
     for (const SettingField& field : settingFields)
         std::visit(Overloaded{[&](std::string GameSettings::*name) { readName(field, name); },
-                              [&](auto kind) { Read(RegGetString(key_, field.name, ""), kind, settings); }},
+                              [&](auto kind) { Read(RegGetString(key, field.name, ""), kind, settings); }},
                    field.kind);
     return settings;
 }
 
 void RegistrySettings::SaveSettings(const GameSettings& settings) {
-    if (!DiskHasRoom(key_, settings)) return;
+    NamedTexts texts;
+    for (const SettingField& field : settingFields)
+        texts.emplace_back(field.name, std::visit([&](auto kind) { return Stored(kind, settings); }, field.kind));
+    SaveTexts(path_, texts);
+}
 
-    for (const SettingField& field : settingFields) {
-        const std::string text = std::visit([&](auto kind) { return Stored(kind, settings); }, field.kind);
-        RegSetString(key_, field.name, text);
+void SaveTexts(const QString& path, const NamedTexts& texts) {
+    if (!keptInFile) {
+        QSettings key(path, QSettings::NativeFormat);
+        return Write(key, texts);
     }
-    key_.sync();
+    const QFileInfo old(path);
+    if (old.exists() && !(old.isFile() && old.isWritable())) return;
+    const QByteArray store = WithTexts(IsStore(old) ? BytesOf(path) : QByteArray(), texts);
+    if (store.isEmpty() || !QDir().mkpath(old.path())) return;
+    ReplaceFile(path, store, ownersOnly);
+}
+
+std::string LoadText(const QString& path, std::string_view name) {
+    if (keptInFile && !IsStore(QFileInfo(path))) return {};
+    return RegGetString(QSettings(path, QSettings::NativeFormat), name, {});
 }

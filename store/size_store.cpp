@@ -1,15 +1,11 @@
 #include "store/size_store.h"
 
-#include <QSettings>
+#include "store/settings_store.h"
 
 namespace {
-constexpr const char* key = "Window/Size";
+constexpr const char* name = "Window/Size";
 }
 
-int StoredSize() {
-    QSettings file("LuckyCup", "LuckyCup2.2");
-    file.setFallbacksEnabled(false);
-    return file.value(key).toInt();
-}
+int StoredSize() { return QString::fromStdString(LoadText(UserSettingsPath(), name)).toInt(); }
 
-void StoreSize(int percent) { QSettings("LuckyCup", "LuckyCup2.2").setValue(key, percent); }
+void StoreSize(int percent) { SaveTexts(UserSettingsPath(), {{name, std::to_string(percent)}}); }

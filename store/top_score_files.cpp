@@ -1,15 +1,17 @@
 #include "store/top_score_files.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QtEndian>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <filesystem>
+#include <thread>
 
 #include "core/program_folder.h"
+#include "store/file_lock.h"
+#include "store/replace_file.h"
 #include "store/windows_1252.h"
 
 namespace fs = std::filesystem;
@@ -63,6 +65,8 @@ int CodeOf(QFileDevice::FileError error) {
             return permissionDenied;
         case QFileDevice::ResourceError:
             return diskFull;
+        case QFileDevice::RenameError:
+            return pathFileAccess;
         default:
             return deviceError;
     }
@@ -158,31 +162,18 @@ QByteArray ReadTable(const QString& path, QIODevice::OpenMode mode, qint64 atMos
     return bytes;
 }
 
-// What a process killed in the middle of an update has left beside the table.
-void RemoveLeftovers(const QFileInfo& fresh) {
-    QDir folder = fresh.dir();
-    for (const QString& name : folder.entryList({fresh.fileName() + '*'}, QDir::Files)) folder.remove(name);
-}
-
-// Goes by a file with a name of its own, .new, instead of QSaveFile's random one beside the table: that could not be
-// told from a copy which the player made (scores1.dat.backup) and so could never be cleared away.
-void ReplaceTable(const QString& path, const QByteArray& bytes) {
-    const QFileInfo old(path);
-    const QString table = old.exists() ? old.canonicalFilePath() : path;
-    const QString fresh = table + ".new";
-    RemoveLeftovers(QFileInfo(fresh));
-
-    QSaveFile file(fresh);
-    if (!file.open(QIODevice::WriteOnly)) Fail(CodeOf(file.error()), path);
-    if (old.exists()) file.setPermissions(old.permissions());
-    // Flushed by hand: commit() of Qt 6.4 overlooks a write that a full disk cut short.
-    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit()) Fail(CodeOf(file.error()), path);
-
-    std::error_code error;
-    fs::rename(NativePath(fresh), NativePath(table), error);
-    if (!error) return;
-    QFile::remove(fresh);
-    Fail(pathFileAccess, path);
+// Held from the reading of a table to its replacing, so that of two programs that record at once none undoes the other.
+// The lock lies on the folder: a table itself is another file after each update. Where there are no locks it goes on
+// without one.
+void LockTable(FileLock& lock, const QString& path) {
+    constexpr std::chrono::seconds patience(5);  // an update takes milliseconds
+    const QFileInfo table(path);
+    const QString folder = QFileInfo(table.exists() ? table.canonicalFilePath() : path).path();
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (lock.Try(folder, LockOn::Folder) == LockAttempt::HeldByAnother) {
+        if (std::chrono::steady_clock::now() > end) Fail(permissionDenied, path);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 }
 
 }  // namespace
@@ -194,12 +185,15 @@ QString TopScoreFiles::PathOf(int number) const {
 int TopScoreFiles::Record(int number, const ScoreRecord& record) {
     const QString path = PathOf(number);
     QByteArray file;
+    FileLock lock;
+    LockTable(lock, path);
     if (TableStands(path)) file = ReadTable(path, QIODevice::ReadWrite, largestFile + 1);
     if (file.size() > largestFile) Fail(outOfMemory, path);
 
     const int place = PlaceRecord(file, record);
     PutAt(file, trailerAt, LittleEndian(trailer));
-    ReplaceTable(path, file);
+    const auto failure = ReplaceFile(path, file, everyones);
+    if (failure != QFileDevice::NoError) Fail(CodeOf(failure), path);
     return place;
 }
 

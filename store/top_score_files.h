@@ -5,9 +5,10 @@
 
 #include "core/ports/top_scores.h"
 
-// The files scores1.dat to scores4.dat in a folder, which must exist. A file is
-// replaced in one step, so at any instant it holds the old or the new table. One that cannot be opened for reading and
-// writing is left alone, though its folder would let it be replaced.
+// The files scores1.dat to scores4.dat in a folder, which must exist. A file is replaced in one step, so at any instant
+// it holds the old or the new table, and programs that record at once wait for each other. One that cannot be opened
+// for reading and writing is left alone, though its folder would let it be replaced. Beside a table only the file of
+// its name and ".new" is made, and cleared away.
 //
 // Only a table that is missing from its folder is fileNotFound; other failures have the number of their own kind.
 class TopScoreFiles final : public TopScores {

@@ -122,9 +122,10 @@ Table ToldFor(const GameSettings& settings) {
     return table;
 }
 
-// Frames whose places follow from those of labels and boxes, panels that share the bar, and what the toolbar holds.
+// Frames whose places follow from those of labels and boxes, panels that share the bar, and what the toolbar and the
+// row of lamps hold.
 bool FollowsOthers(const QString& name) {
-    static const QRegularExpression others("^$|^(shp|Shape12_|StatusBar1_|tb|qt_|mnu)");
+    static const QRegularExpression others("^$|^(shp|Shape12_|StatusBar1_|tb|qt_|mnu|lamps)");
     return others.match(name).hasMatch();
 }
 

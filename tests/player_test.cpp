@@ -1,12 +1,13 @@
 #include "sound/player/player.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
@@ -309,6 +310,18 @@ TEST(Player, EveryFileOfTheGameOpensAndHasItsLength) {
         }
 }
 
+TEST(SoundFiles, OnlyRegularFilesAreOpened) {
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("a.WAV").toStdString();
+    for (const auto& plant :
+         {+[](const char* at) { return mkfifo(at, 0600); }, +[](const char* at) { return mkdir(at, 0700); },
+          +[](const char* at) { return symlink("/dev/zero", at); }}) {
+        ASSERT_EQ(plant(path.c_str()), 0);
+        EXPECT_TRUE(LoadWave(path).empty() && !Mp3::Open(path));
+        ASSERT_EQ(std::remove(path.c_str()), 0);
+    }
+}
+
 // The whole program in a folder of its own, with sounds that can be told from each other.
 struct SoundingProgram : Recording {
     SoundingProgram() {
@@ -332,7 +345,7 @@ struct SoundingProgram : Recording {
     }
 
     Art art;
-    std::unique_ptr<Program> program = std::make_unique<Program>(Folder(), art);
+    std::unique_ptr<Program> program = std::make_unique<Program>(FilesInOneFolder(Folder()), art);
     QTimer answerer;
 };
 
@@ -387,7 +400,7 @@ TEST(SoundingProgram, TheIntroComesTwoSecondsAfterTheGameAndEndsWithTheNext) {
 
 int main(int argc, char** argv) {
     QTemporaryDir home;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("SDL_AUDIODRIVER", "disk");
     QApplication application(argc, argv);

@@ -27,13 +27,13 @@ struct RunningProgram {
 
     static QString Prepared(const QString& folder) {
         QDir(folder).mkdir("scores");
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
         return folder + '/';
     }
 
     QTemporaryDir folder;
     Art art;
-    Program program{Prepared(folder.path()).toStdString(), art};
+    Program program{FilesInOneFolder(Prepared(folder.path()).toStdString()), art};
     Game& game = program.game;
     QTimer answerer;  // says yes to every question
 };
@@ -131,9 +131,34 @@ TEST(Program, HoldsTheMusicWhileMinimisedAndSavesWhenItCloses) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !watches(); }, 1000));
     running.program.window.showNormal();
     EXPECT_TRUE(QTest::qWaitFor(watches, 1000));
-    EXPECT_TRUE(running.program.window.close());
+    running.program.window.close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !running.program.window.isVisible(); }, 1000));
     const GameSettings saved = RegistrySettings().LoadSettings();
     EXPECT_TRUE(saved == running.game.settings);
+}
+
+TEST(Program, LeavesByAnAnswerOnlyAndThenForGood) {
+    RunningProgram running({.ConfirmOnExit = true});
+    running.answerer.stop();
+    frmLuckyCup& window = running.program.window;
+    const auto ask = [&](Qt::Key answer) {
+        QTimer::singleShot(200, [&, answer] {
+            QWidget* question = QApplication::activeModalWidget();
+            ASSERT_TRUE(question);
+            window.close();  // once more, with the question open
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(question->isVisible() && window.isVisible());
+            QTest::keyClick(question, answer);
+        });
+        window.findChild<QAction*>("mnuGameExit")->trigger();
+    };
+    ask(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    ask(Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+    bool letIn = false;
+    running.program.gate.Run([&] { letIn = true; });
+    EXPECT_FALSE(letIn);
 }
 
 TEST(Program, RecordsEachGameInTheFileOfItsKind) {

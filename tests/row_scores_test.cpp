@@ -53,10 +53,11 @@ void CheckEveryThrow(std::size_t dice) {
             for (bool compute : {true, false}) {
                 game.session.ComputeOnly = compute;
                 game.session.CurrentColumn = compute ? ScoreColumn::Rand : ScoreColumn::None;
-                std::ranges::copy(compute ? sorted : thrown, game.dice.DiceValues.begin());
+                std::ranges::copy(thrown, game.dice.DiceValues.begin());
                 ScoreRowOf(game, row);
-                const Dice& left = !compute && row == rowStraight ? thrown : sorted;
+                const Dice& left = compute || row == rowStraight ? thrown : sorted;
                 ASSERT_EQ(game.session.RowScore, Value(row, thrown)) << row << testing::PrintToString(thrown);
+                ASSERT_EQ(RowValues(game.dice)[row], game.session.RowScore) << testing::PrintToString(thrown);
                 ASSERT_TRUE(std::ranges::equal(left, game.dice.DiceValues | std::views::take(dice)))
                     << row << testing::PrintToString(thrown);
             }

@@ -24,6 +24,11 @@ def wait_for(what, answer, seconds=30, pause=0.1):
 
 
 class Screen:
+    """bus: the address of a message bus for the programs, or none, nor one launched for the purpose."""
+
+    def __init__(self, bus="disabled:"):
+        self._bus = bus
+
     def __enter__(self):
         self._folder = tempfile.TemporaryDirectory(prefix="lucky-cup-")
         self._programs = []
@@ -37,9 +42,10 @@ class Screen:
             number = answer.readline().strip()
         if not number:
             raise RuntimeError("Xvfb did not start")
-        # Nothing of the desktop that this may have been started from, nor a message bus launched for the purpose.
-        self._environment = {**os.environ, "DISPLAY": ":" + number, "QT_QPA_PLATFORM": "xcb",
-                             "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+        # Nothing of the desktop that this may have been started from.
+        self.display = ":" + number
+        self._environment = {**os.environ, "DISPLAY": self.display, "QT_QPA_PLATFORM": "xcb",
+                             "DBUS_SESSION_BUS_ADDRESS": self._bus}
         for name in ("WAYLAND_DISPLAY", "QT_SCALE_FACTOR"):
             self._environment.pop(name, None)
         with open(pathlib.Path(self._folder.name, "Xvfb_screen0"), "rb") as file:

@@ -43,6 +43,7 @@ TEST(Script, EndsAtABadLineAndTellsItsNumber) {
         EXPECT_EQ(played.lines.size(), printed) << script;
     };
     expectError("\n# a game\r\n  jump 1\nstart", "line 3: unknown command 'jump'", 0);
+    expectError(std::string("\0up", 3), "line 1: unknown command '?up'", 0);
     expectError("start\nquit\njump", "line 3: unknown command 'jump'", 2);
     expectError("start\nquit\nstart", "line 3: not started", 2);
     for (const std::string& event : Cases("roll|state 1|die 9|options x|tick nothing")) {
@@ -54,10 +55,11 @@ TEST(Script, EndsAtABadLineAndTellsItsNumber) {
                "set BGMusicVolume 1001|set SoundEnabled true|set Nothing 1|seed|seed -1|seed 18446744073709551616|"
                "faces|faces 1 7|faces 1x|answer|answer yes|media|start 1"))
         expectError(setUp, "line 1: bad argument", 0);
-    for (const std::string& event : Cases(
-             "start|set SoundEnabled True|set AppPath .|roll 1|key|key tab|die 6|die -1|die 1.0|box 0 1|box 5 1|"
-             "box 1 13|box 1|hints on|sounds|music always|hover 1|leave 1 99|tick|tick tmrNone|tick tmrCounter 0|"
-             "tick tmrCounter 1 1|options Player1|options Player1=A =|options NumberOfDice=6|options ShowSplash=True"))
+    for (const std::string& event :
+         Cases("start|set SoundEnabled True|set AppPath .|roll 1|key|key tab|die 6|die -1|die 1.0|box 0 1|box 5 1|"
+               "box 1 13|box 1|hints on|sounds|music always|hover 1|leave 1 99|tick|tick tmrNone|tick tmrCounter 0|"
+               "tick tmrCounter 1 1|tick Timer3 1000001|tick Timer3 18446744073709551615|options Player1|options "
+               "Player1=A =|options NumberOfDice=6|options ShowSplash=True"))
         expectError("start\n" + event, "line 2: bad argument", 1);
     expectError("answer cancel finish\nstart\nquit\nstate\nquit", "line 5: bad argument", 3);
 }
@@ -72,6 +74,27 @@ TEST(Script, ReadsToTheEnd) {
     EXPECT_TRUE(played.lines[2].starts_with(
         R"({"event":"quit","ignored":false,"log":["message Confirm|Exit Lucky Cup?|question|cancel"],)"));
     EXPECT_TRUE(played.LastHas(R"(|ok","save","media close song"],)") && played.LastHas(R"("Player1":"Ann  Lee")"));
+}
+
+TEST(Script, TellsWhatItCannotWriteOrRead) {
+    struct Full : std::streambuf {
+    } full;
+    struct Unreadable : std::streambuf {
+        int underflow() override { throw std::ios_base::failure("a folder"); }
+    } unreadable;
+    const auto expectError = [](std::streambuf* from, std::streambuf* to, const std::string& error) {
+        std::istream in(from);
+        std::ostream out(to);
+        std::ostringstream err;
+        EXPECT_EQ(RunScript(in, out, err), 1);
+        EXPECT_EQ(err.str(), error);
+    };
+    for (const char* script : {"start", "start\nstate\nquit\n", "start\njump\n"}) {
+        std::stringbuf lines(script);
+        expectError(&lines, &full, "cannot write the output\n");
+    }
+    std::stringbuf printed;
+    expectError(&unreadable, &printed, "cannot read the input\n");
 }
 
 TEST(Script, PrintsEveryKeyInItsPlace) {

@@ -141,8 +141,7 @@ QJsonObject Seen(const WindowTable& t) {
                      {"height", t.window.centralWidget()->height()},
                      {"title", t.window.windowTitle().replace("[*][*]", "[*]")},
                      {"minimized", t.window.isMinimized()},
-                     {"closed", t.window.isHidden()},
-                     {"counter", t.At("picScore").accessibleDescription()}};
+                     {"closed", t.window.isHidden()}};
     for (const QJsonObject& part : {BoardOf(t), ControlsOf(t)})
         for (auto value = part.begin(); value != part.end(); ++value) seen[value.key()] = value.value();
     return seen;

@@ -1,7 +1,6 @@
 #include "kit/size.h"
 
 #include <QScreen>
-#include <QSettings>
 #include <QWheelEvent>
 
 #include "app/tick.h"
@@ -10,6 +9,7 @@
 #include "kit/size_keys.h"
 #include "kit/sized_style.h"
 #include "kit/sized_widgets.h"
+#include "store/settings_store.h"
 #include "store/size_store.h"
 #include "tests/window_table.h"
 
@@ -170,14 +170,15 @@ TEST_F(Sizes, AtTheStartFitTheScreen) {
 
 TEST_F(Sizes, AreKeptBesideWhatElseStandsInTheFile) {
     const QTemporaryDir home;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
     EXPECT_EQ(StoredSize(), 0);
-    QSettings("LuckyCup", "LuckyCup2.2").setValue("Player1", "Ada");
     StoreSize(175);
+    RegistrySettings().SaveSettings(VariantOf(7));
     EXPECT_EQ(StoredSize(), 175);
-    EXPECT_EQ(QSettings("LuckyCup", "LuckyCup2.2").value("Player1"), "Ada");
+    StoreSize(150);
+    EXPECT_EQ(RegistrySettings().LoadSettings().NumberOfColumns, 1);
     for (const char* nonsense : {"", "large", "1e9", "99999999999", "100 %", "-100"}) {
-        QSettings("LuckyCup", "LuckyCup2.2").setValue("Window/Size", nonsense);
+        SaveTexts(UserSettingsPath(), {{"Window/Size", nonsense}});
         EXPECT_EQ(SizeAtStart(StoredSize(), {4000, 4000}), toldSize) << nonsense;
     }
 }

@@ -233,26 +233,29 @@ TEST_F(TopScoreFilesTest, ProtectedFilesStayAsTheyAre) {
 
 TEST_F(TopScoreFilesTest, FileThatCannotGrowStaysAsItIs) {
     Write(Slots(4, 1));
-    const pid_t child = fork();
-    if (child == 0) {
-        const rlimit limit{100, 100};
-        std::signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &limit);
-        _exit(CodeOf([this] { Record(7); }));
+    for (const rlim_t room : {0U, 1U, 100U, 483U, 484U}) {
+        const pid_t child = fork();
+        if (child == 0) {
+            const rlimit limit{room, room};
+            std::signal(SIGXFSZ, SIG_IGN);
+            setrlimit(RLIMIT_FSIZE, &limit);
+            _exit(CodeOf([this] { Record(7); }));
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(WEXITSTATUS(status), room < 484 ? 57 : 0) << room;
+        EXPECT_EQ(Bytes(), room < 484 ? Slots(4, 1) : Slot(7) + Slots(4, 1) + Zeros(15) + trailer) << room;
+        EXPECT_EQ(Names(), QStringList("scores1.dat"));
     }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(WEXITSTATUS(status), 57);
-    EXPECT_EQ(Bytes(), Slots(4, 1));
-    EXPECT_EQ(Names(), QStringList("scores1.dat"));
 }
 
-TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsLeftovers) {
-    const QString elsewhere = folder.filePath("elsewhere.dat");
+TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsItsOwnLeftoversOnly) {
+    const QString elsewhere = folder.filePath("*");
     Record(5);
     ASSERT_TRUE(QFile::rename(Path(), elsewhere) && QFile::link(elsewhere, Path()));
     ASSERT_EQ(chmod(QFile::encodeName(elsewhere), 0660), 0);
-    for (const char* leftover : {".new", ".new.aBcDeF"}) ASSERT_TRUE(QFile::copy("/dev/null", elsewhere + leftover));
+    for (const char* name : {".new", ".new.aBcDeF", ".new-year"})
+        ASSERT_TRUE(QFile::copy("/dev/null", elsewhere + name));
 
     EXPECT_EQ(Record(4), 2);
     EXPECT_EQ(QFile::symLinkTarget(Path()), elsewhere);
@@ -260,37 +263,30 @@ TEST_F(TopScoreFilesTest, ReplacingKeepsLinkAndPermissionsAndClearsLeftovers) {
     struct stat status {};
     ASSERT_EQ(stat(QFile::encodeName(elsewhere), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0660U);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("elsewhere.dat"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({"*", "*.new-year", "*.new.aBcDeF"}));
 }
 
-// The n-th update puts n on top, so the table itself tells which one it is and what all of it must be.
-TEST_F(TopScoreFilesTest, KilledProcessLeavesTheOldOrTheNewTable) {
-    ASSERT_TRUE(QFile::copy("/dev/null", Path() + ".backup")) << "a copy of the player's own";
-    std::mt19937 random(1);
-    int best = 0;
-    for (int round = 0; round < 300; ++round) {
-        int recorded[2];
-        ASSERT_EQ(pipe(recorded), 0);
-        const pid_t child = fork();
-        for (int score = best + 1; child == 0; ++score)
-            if (Record(score) != 1 || write(recorded[1], "", 1) != 1) _exit(1);
-        char one = 0;
-        ASSERT_EQ(read(recorded[0], &one, 1), 1);
-        usleep(static_cast<useconds_t>(random() % 1000));
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        close(recorded[0]);
-        close(recorded[1]);
-
-        const int top = files.LoadTopScores(1)[0].Score;
-        ASSERT_GT(top, best);
-        best = top;
-        const int kept = std::min(best, 20);
-        ASSERT_EQ(Bytes().toHex(), (Slots(best, best - kept + 1) + unused.repeated(20 - kept) + trailer).toHex());
-        ASSERT_LE(Names().size(), 5) << "leftovers pile up";
+TEST_F(TopScoreFilesTest, WhatIsPlantedBesideTheTableIsNotWrittenThrough) {
+    Record(5);
+    Write("the player's own", 2);
+    const QByteArray fresh = QFile::encodeName(Path() + ".new");
+    const std::pair<const char*, std::function<int()>> cases[] = {
+        {"a link", [&] { return symlink(QFile::encodeName(Path(2)), fresh); }},
+        {"a link to nothing", [&] { return symlink("nothing", fresh); }},
+        {"a hard link", [&] { return link(QFile::encodeName(Path(2)), fresh); }},
+        {"a pipe", [&] { return mkfifo(fresh, 0666); }},
+        {"a folder", [&] { return mkdir(fresh, 0777); }},
+    };
+    int best = 5;
+    for (const auto& [what, plant] : cases) {
+        ASSERT_EQ(plant(), 0) << what;
+        EXPECT_EQ(Record(++best), 1) << what;
+        EXPECT_EQ(Names(), QStringList({"scores1.dat", "scores2.dat"})) << what;
+        EXPECT_EQ(Bytes(2), "the player's own") << what;
     }
-    Record(best + 1);
-    EXPECT_EQ(Names(), QStringList({"scores1.dat", "scores1.dat.backup"}));
+    ASSERT_TRUE(QDir().mkpath(Path() + ".new/full"));
+    EXPECT_EQ(CodeOf([this] { Record(99); }), 70) << "a folder that holds something";
+    EXPECT_EQ(files.LoadTopScores(1)[0].Score, best);
 }
 
 }  // namespace

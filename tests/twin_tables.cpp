@@ -9,8 +9,10 @@
 #include "script/commands.h"
 #include "script/json_line.h"
 #include "store/top_score_files.h"
+#include "table/presses.h"
 #include "table/row_names.h"
 #include "table/window/counter_display.h"
+#include "tests/mark_ways.h"
 #include "tests/state_differences.h"
 
 namespace {
@@ -25,6 +27,7 @@ QString BoxButtonName(Line line) { return QString("cmd") + ColumnName(static_cas
 struct Way {
     std::string_view command;
     void (*go)(T, Line);
+    bool byKey = false;
 };
 
 // What is hidden can't be aimed at.
@@ -38,25 +41,49 @@ void Choose(T t, const char* entry, const char* key = nullptr) {
     if (key && t.Entry(entry).isVisible()) t.Click(key);
 }
 
+// Leads the mark to the box and presses it.
+void PressWithMark(T t, Line line) {
+    const Box wanted{static_cast<ScoreColumn>(Number(line, 1)), Number(line, 2)};
+    const auto marked = [&](const Box& box) {
+        return dynamic_cast<PictureButton&>(t.At(QString("cmd") + ColumnName(box.column), box.row)).Marked();
+    };
+    constexpr std::array arrows{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
+    if (BoxOpen(t.game, wanted.column, wanted.row)) t.Key(Qt::Key_Left);
+    for (const auto& [box, way] : WaysTo(t.game, wanted))
+        if (marked(box))
+            for (Direction step : way) t.Key(arrows[static_cast<std::size_t>(step)]);
+    t.Key(Qt::CTRL | Qt::Key_Return);
+    t.Key(Qt::Key_Escape);
+}
+
 const Way ways[] = {
     {"roll", [](T t, Line) { Click(t, "picRollDices"); }},
-    {"key enter", [](T t, Line) { t.Key(Qt::Key_Return); }},
-    {"key enter", [](T t, Line) { t.Key(Qt::KeypadModifier | Qt::Key_Enter); }},
+    {"key enter", [](T t, Line) { t.Key(Qt::Key_Return); }, true},
+    {"key enter", [](T t, Line) { t.Key(Qt::KeypadModifier | Qt::Key_Enter); }, true},
     {"key space", [](T t, Line) { t.Key(Qt::Key_Space); }},
     {"die",
      [](T t, Line line) { Click(t, t.Shown("picDice", Number(line, 1)) ? "picDice" : "PicDiceOff", Number(line, 1)); }},
+    {"die", [](T t, Line line) { t.Key(static_cast<Qt::Key>(Qt::Key_1 + Number(line, 1))); }, true},
+    {"die", [](T t, Line line) { t.Key(Qt::KeypadModifier | Qt::Key(Qt::Key_1 + Number(line, 1))); }, true},
     {"box", [](T t, Line line) { Click(t, BoxButtonName(line), Number(line, 2)); }},
+    {"box", PressWithMark, true},
     {"hover", [](T t, Line line) { t.MoveOnto(BoxButtonName(line), Number(line, 2)); }},
     {"leave", [](T t, Line) { t.MoveAway(); }},
     {"next", [](T t, Line) { Click(t, "cmdNextPlayer"); }},
+    {"next", [](T t, Line) { t.Key(Qt::Key_N); }, true},
+    {"board", [](T t, Line) { t.Key(Qt::Key_B); }, true},
     {"board", [](T t, Line) { Click(t, "cmdShowNextBoard"); }},
     {"undo", [](T t, Line) { t.ClickEntry("mnuUndoUndo"); }},
     {"undo", [](T t, Line) { Click(t, "tbUndo"); }},
+    {"undo", [](T t, Line) { t.Key(Qt::CTRL | Qt::Key_Z); }, true},
+    {"redo", [](T t, Line) { t.Key(Qt::CTRL | Qt::Key_Y); }, true},
+    {"redo", [](T t, Line) { t.Key(Qt::CTRL | Qt::SHIFT | Qt::Key_Z); }, true},
     {"redo", [](T t, Line) { Click(t, "tbRedo"); }},
     {"redo", [](T t, Line) { t.ClickEntry("mnuUndoRedo"); }},
     {"new", [](T t, Line) { t.Key(Qt::Key_F2); }},
     {"new", [](T t, Line) { Click(t, "tbNew"); }},
     {"new", [](T t, Line) { t.ClickEntry("mnuNewGame"); }},
+    {"hint", [](T t, Line) { t.Key(Qt::Key_H); }, true},
     {"hint", [](T t, Line) { Click(t, "tbHint"); }},
     {"hints always", [](T t, Line) { t.ClickEntry("mnuHintsAllways2"); }},
     {"hints request", [](T t, Line) { t.ClickEntry("mnuHintsByRequest2"); }},
@@ -91,12 +118,6 @@ std::string Joined(const EventLog& log) {
     for (const std::string& entry : log)
         if (!entry.starts_with("refresh") && entry != "minimize") text += entry + '\n';
     return text;
-}
-
-QString Glyphs(const GlyphColumns& picture) {
-    QString glyphs;
-    for (const GlyphRun& run : picture.Runs()) glyphs += run.glyph;
-    return glyphs;
 }
 
 std::string Compact(const QJsonValue& value) {
@@ -139,7 +160,7 @@ constexpr OptionsControl optionsControls[] = {
 
 }  // namespace
 
-TwinTables::TwinTables() {
+TwinTables::TwinTables(Hands hands) : hands_(hands) {
     script.table.scores.Keep(std::make_unique<TopScoreFiles>(folder_.path().toStdString() + '/'));
 }
 
@@ -194,6 +215,8 @@ void TwinTables::PlayInWindow(const ScriptLine& line) {
     for (const Way& way : ways)
         if (way.command == line.Command() || way.command == line.text) open.push_back(&way);
     ASSERT_FALSE(open.empty()) << line.text;
+    if (hands_ != Hands::Both && open.size() > 1)
+        std::erase_if(open, [&](const Way* way) { return way->byKey != (hands_ == Hands::Keys); });
     open[static_cast<std::size_t>(events_++) % open.size()]->go(*window, line);
     if (line.Command() == "hover")
         hovered_ = line.RestFrom(1);
@@ -214,17 +237,25 @@ bool TwinTables::NextAnswerIs(HeadlessAnswer yes) {
     return answer == yes;
 }
 
+// A key presses the default button alone.
+void TwinTables::Press(QAbstractButton& button) {
+    if (hands_ == Hands::Keys)
+        QTest::keyClick(button.window(), Qt::Key_Return);
+    else
+        QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(10, button.height() / 2));
+}
+
 void TwinTables::AnswerDialog(QWidget& modal) {
     const std::string name = modal.objectName().toStdString();
     if (auto* box = dynamic_cast<QMessageBox*>(&modal)) {
         const bool ok = !box->button(QMessageBox::Cancel) || NextAnswerIs(HeadlessAnswer::Ok);
         window->log.push_back("message " + box->windowTitle().toStdString() + '|' + box->text().toStdString() + '|' +
                               IconOf(*box, window->art) + (ok ? "|ok" : "|cancel"));
-        return QTest::mouseClick(box->button(ok ? QMessageBox::Ok : QMessageBox::Cancel), Qt::LeftButton);
+        return Press(*box->button(ok ? QMessageBox::Ok : QMessageBox::Cancel));
     }
     if (name == "frmEndGame") {
         const bool finish = NextAnswerIs(HeadlessAnswer::Finish);
-        ClickIn(modal, finish ? "cmdFinish" : "cmdUndo");
+        Press(*modal.findChild<QAbstractButton*>(finish ? "cmdFinish" : "cmdUndo"));
         window->log.push_back(finish ? "dialog frmEndGame|finish" : "dialog frmEndGame|undo");
     } else if (name == "frmOptions") {
         ChangeOptions(modal);
@@ -232,7 +263,7 @@ void TwinTables::AnswerDialog(QWidget& modal) {
         ClickIn(modal, ok ? "HoverCommand1" : "HoverCommand2");
         window->log.push_back(ok ? "dialog frmOptions|ok" : "dialog frmOptions|cancel");
     } else {
-        ClickIn(modal, name == "frmTheWinerIs" ? "cmdClose" : "cmdReturn");
+        Press(*modal.findChild<QAbstractButton*>(name == "frmTheWinerIs" ? "cmdClose" : "cmdReturn"));
         window->log.push_back("dialog " + name);
     }
 }
@@ -263,7 +294,6 @@ void TwinTables::Compare(const std::string& event) {
     const GlyphColumns& picture = table.view.Picture(CounterPicture::picScore);
     told["height"] = Pixels(table.game.table.height - 690);  // less its frame and the menu bar
     told["closed"] = script.closed;
-    told["counter"] = Glyphs(picture);
     const bool minimized = event == "minimize" || std::ranges::count(table.log, "minimize") > 0;
     told["minimized"] = minimized;
     const QJsonObject seen = Seen(*window);

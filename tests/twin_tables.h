@@ -7,7 +7,9 @@
 // event all that can be seen in the window is held against what the other table tells.
 class TwinTables {
 public:
-    TwinTables();
+    enum class Hands { Both, Mouse, Keys };
+
+    explicit TwinTables(Hands hands = Hands::Both);
 
     void Line(const std::string& text);  // of the script; what differs then fails the test
     bool Alike() const { return alike_; }
@@ -21,11 +23,13 @@ private:
     void PlayBesides(const char* event, const ScriptLine& line);
     void PlayInWindow(const ScriptLine& line);
     void Settle();
+    void Press(QAbstractButton& button);
     void AnswerDialog(QWidget& modal);
     void ChangeOptions(QWidget& dialog);
     bool NextAnswerIs(HeadlessAnswer yes);
     void Compare(const std::string& event);
 
+    Hands hands_;
     QTemporaryDir folder_;
     std::deque<HeadlessAnswer> answers_;  // for the window
     std::vector<std::string> optionPairs_;

@@ -25,8 +25,15 @@ QLineEdit* NameField(const char* name, const char* spokenName) {
     return field;
 }
 
-QGroupBox* Group(const char* name, const char* title, std::initializer_list<QWidget*> controls) {
+// The blanks around a title are for the eye.
+QGroupBox* NamedGroup(const char* name, const char* title) {
     auto* group = Named<QGroupBox>(name, title);
+    group->setAccessibleName(QString(title).trimmed());
+    return group;
+}
+
+QGroupBox* Group(const char* name, const char* title, std::initializer_list<QWidget*> controls) {
+    auto* group = NamedGroup(name, title);
     auto* column = new QVBoxLayout(group);
     for (QWidget* control : controls) column->addWidget(control);
     return group;
@@ -80,7 +87,7 @@ QGroupBox* frmOptions::MakeGeneral() {
     auto* checks = new QVBoxLayout;
     for (QCheckBox* check : {chkShowStatusBar_, chkQuitGame_, chkConfirmExit_}) checks->addWidget(check);
     checks->addStretch();
-    auto* group = Named<QGroupBox>("Frame4", " General Options ");
+    auto* group = NamedGroup("Frame4", " General Options ");
     auto* row = new QHBoxLayout(group);
     row->addLayout(checks, 1);
     row->addWidget(Group("Frame5", " Show at Start Up ", {optShowNone_, optShowSplash_, optShowDialog_}), 1);
@@ -92,7 +99,7 @@ QGroupBox* frmOptions::MakeVolume() {
     sldVolume_->setSingleStep(1);
     sldVolume_->setPageStep(100);
     sldVolume_->setAccessibleName("Music volume");
-    auto* group = Named<QGroupBox>("Frame7", " Adjust Music Volume ");
+    auto* group = NamedGroup("Frame7", " Adjust Music Volume ");
     auto* row = new QHBoxLayout(group);
     row->addWidget(Named<QLabel>("Label1", "Min"));
     row->addWidget(sldVolume_);
@@ -103,6 +110,7 @@ QGroupBox* frmOptions::MakeVolume() {
 QBoxLayout* frmOptions::MakeButtons(Art& art) {
     auto* ok = Named<QPushButton>("HoverCommand1", "  &OK  ");
     auto* cancel = Named<QPushButton>("HoverCommand2", "&Cancel");
+    ok->setAccessibleName("OK");
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &frmOptions::Ok);
     connect(cancel, &QPushButton::clicked, this, &frmOptions::reject);

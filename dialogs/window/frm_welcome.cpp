@@ -59,9 +59,12 @@ QPushButton* frmWelcome::AddButton(const char* name, const char* caption, const 
 }
 
 void frmWelcome::PlaceOnScreen() {
+    // Its own frame is not known before it is shown; this is what frames usually add.
+    const QSize frame = size() + QSize(Pixels(90), Pixels(405));
     const QRect area = screen()->geometry();
-    const QPoint place(area.left() + (area.width() - width()) / 2, area.top() + (area.height() - height()) / 2);
-    move(IntoView({place, size()}, screen()->availableGeometry()));
+    const QPoint place(area.left() + (area.width() - frame.width()) / 2,
+                       area.top() + (area.height() - frame.height()) / 2);
+    move(IntoView({place, frame}, screen()->availableGeometry()));
 }
 
 void frmWelcome::Play() {

@@ -1,12 +1,15 @@
 #include "sound/player/mp3.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "sound/player/samples.h"
 
 static int Milliseconds(off_t frames) { return static_cast<int>(frames * 1000 / framesPerSecond); }
 
 std::unique_ptr<Mp3> Mp3::Open(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return nullptr;  // a pipe would keep the game waiting
     Handle handle(mpg123_new(nullptr, nullptr));
     if (!handle) return nullptr;
     mpg123_param(handle.get(), MPG123_ADD_FLAGS, MPG123_QUIET | MPG123_FORCE_STEREO, 0);

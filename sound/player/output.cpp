@@ -3,6 +3,9 @@
 #include <SDL.h>
 #include <alsa/asoundlib.h>
 
+#include <algorithm>
+#include <span>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -56,12 +59,14 @@ void Output::Serve(const std::shared_ptr<Shared>& shared, std::chrono::milliseco
         shared->failed = !id;
         EffectVoice& effect = shared->mixer.effect;
         if (!id || SoundClock::now() - effect.due > tooLate) effect.samples.reset();
+        const auto opened = SoundClock::now();
         if (id) KeepOpen(*shared, lock, id, idleTime);
+        const bool stayedOpen = id && SoundClock::now() - opened > lookInterval;
+        shared->device = Device::Closed;  // from here on it takes no more samples
         lock.unlock();
         CloseDevice(id);
         lock.lock();
-        shared->device = Device::Closed;
-        if (!id && !shared->leave) shared->changed.wait_for(lock, retryTime);
+        if (!stayedOpen && !shared->leave && shared->mixer.Sounds()) shared->changed.wait_for(lock, retryTime);
     }
     SDL_TLSCleanup();  // which SDL does for its own threads only
     shared->left = true;
@@ -102,7 +107,12 @@ SDL_AudioDeviceID Output::OpenDevice(Shared& shared) {
 void Output::Fill(void* userdata, unsigned char* stream, int length) {
     auto& shared = *static_cast<Shared*>(userdata);
     const std::lock_guard lock(shared.mutex);
+    const std::span samples(reinterpret_cast<std::int16_t*>(stream),
+                            static_cast<std::size_t>(length) / sizeof(std::int16_t));
+    if (shared.device != Device::Open) {
+        std::ranges::fill(samples, std::int16_t{0});
+        return;
+    }
     shared.alive = SoundClock::now();
-    shared.mixer.Fill(
-        {reinterpret_cast<std::int16_t*>(stream), static_cast<std::size_t>(length) / sizeof(std::int16_t)});
+    shared.mixer.Fill(samples);
 }

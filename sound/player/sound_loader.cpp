@@ -2,14 +2,10 @@
 
 #include <QLibrary>
 
-// The plug-in lies beside the program.
-static QString PlugIn(const std::string& programFolder) {
-    return QString::fromStdString(programFolder) + "luckycup-sound.so";
-}
-
 void SoundLoader::Load() {
     if (std::exchange(tried_, true)) return;
-    const auto make = reinterpret_cast<MakeSoundPlayer*>(QLibrary::resolve(PlugIn(programFolder_), makeSoundPlayer));
+    const QString plugIn = QString::fromStdString(plugInFolder_) + "luckycup-sound.so";
+    const auto make = reinterpret_cast<MakeSoundPlayer*>(QLibrary::resolve(plugIn, makeSoundPlayer));
     if (make) player_.reset(make(programFolder_, clock_));
 }
 

@@ -8,8 +8,10 @@
 // it. Where it can't be loaded the game is silent.
 class SoundLoader final : public SoundEffects, public MediaService {
 public:
-    // The folder ends in the separator; the clock outlives the loader.
-    SoundLoader(std::string programFolder, Clock& clock) : programFolder_(std::move(programFolder)), clock_(clock) {}
+    // The plug-in lies in the first folder, what it plays below the second; both end in the separator. The clock
+    // outlives the loader.
+    SoundLoader(std::string plugInFolder, std::string programFolder, Clock& clock)
+        : plugInFolder_(std::move(plugInFolder)), programFolder_(std::move(programFolder)), clock_(clock) {}
 
     void PlayEffect(std::string_view name) override;
     void PlayEffectWait(std::string_view name) override;
@@ -18,7 +20,7 @@ public:
 private:
     void Load();
 
-    std::string programFolder_;
+    std::string plugInFolder_, programFolder_;
     Clock& clock_;
     bool tried_ = false;
     std::unique_ptr<SoundPlayer> player_;  // null: not loaded

@@ -8,6 +8,6 @@
 class SoundPlayer : public SoundEffects, public MediaService {};
 
 // The one function of the plug-in. The folder ends in the separator; the clock outlives the player, which belongs to
-// the caller.
+// the caller. Null where no sound can be made.
 using MakeSoundPlayer = SoundPlayer*(const std::string& programFolder, Clock& clock);
 inline constexpr char makeSoundPlayer[] = "LuckyCupMakeSoundPlayer";

@@ -3,6 +3,7 @@
 #include <SDL.h>
 
 #include <cstring>
+#include <filesystem>
 
 namespace {
 
@@ -25,6 +26,8 @@ Samples Convert(const SDL_AudioSpec& spec, const Uint8* wave, Uint32 length) {
 }  // namespace
 
 Samples LoadWave(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return {};  // a pipe would keep the game waiting
     SDL_AudioSpec spec;
     Uint8* wave = nullptr;
     Uint32 length = 0;

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 #include "table/row_names.h"
 #include "table/window/tool_tips.h"
 
@@ -17,7 +18,12 @@ const ByTotalRow<const char*> totalNames{{"Sub Total", "Max minus Min times Ones
 
 QString Index(const QString& array, int i) { return QString("%1_%2").arg(array).arg(i); }
 
-QString Called(ScoreColumn column, const char* what) { return QString("%1 column, %2").arg(ColumnName(column), what); }
+QString Called(ScoreColumn column, const char* what) { return QString("%1, %2").arg(SpokenColumnName(column), what); }
+
+void SetSpokenText(TextLabel& label, const QString& called, const QString& text) {
+    label.setText(text);
+    Say(label, called + ": " + (text.isEmpty() ? "empty" : text));
+}
 
 PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_pressed", "box_empty"}; }
 PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, Index("row_pressed", row), {}}; }
@@ -31,9 +37,18 @@ BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, const QStri
     setMouseTracking(true);
     setEnabled(false);
     hide();
+    SayState();
 }
 
-void BoxButton::SayState() { setAccessibleName(box_ + (isEnabled() ? ", open" : ", closed")); }
+void BoxButton::SetHint(const QString& points) {
+    hint_ = points;
+    SayState();
+}
+
+void BoxButton::SayState() {
+    const QString score = isEnabled() && !hint_.isEmpty() ? ", would score " + hint_ : QString();
+    Say(*this, box_ + (isEnabled() ? ", open" : ", closed") + score);
+}
 
 void BoxButton::TellHover(bool on) {
     if (on ? !isEnabled() : !hovered_) return;
@@ -76,6 +91,8 @@ Board::Board(QWidget* table, Art& art, const Events& events)
     Put(*arrowsFour_, arrowsFourPlace);
     Put(*arrowsOne_, arrowsOnePlace);
     arrowsOne_->setToolTip(oneColumnTip);
+    Say(*arrowsOne_, SpokenColumnName(ScoreColumn::Rand));
+    Say(*arrowsFour_, "Columns");
     TellColumns();
     for (ScoreColumn column : allColumns) MakeColumn(column, table, art, events);
 }
@@ -87,7 +104,9 @@ void Board::TellColumns() {
         auto* part = new QWidget(arrowsFour_);
         part->setAttribute(Qt::WA_TransparentForMouseEvents);
         Put(*part, {0, i * height / 4, width, height / 4});
-        part->setToolTip(columnTips[allColumns[static_cast<std::size_t>(i)]]);
+        const ScoreColumn column = allColumns[static_cast<std::size_t>(i)];
+        part->setToolTip(columnTips[column]);
+        Say(*part, SpokenColumnName(column));
     }
 }
 
@@ -100,7 +119,7 @@ void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Event
         const LabelLook& look = row == rowMax || row == rowMin ? maxMinLook : boxLook;
         made.boxes[row] = new TextLabel(Index(label, row), table, look, Qt::AlignHCenter);
         made.boxes[row]->setFont(boxFont);
-        made.boxes[row]->setAccessibleDescription(Called(column, RowName(row)));
+        SetBoxText(column, row, {});
         const auto hover = [hover = events.hover, column, row](bool on) { hover(column, row, on); };
         made.buttons[row] = new BoxButton(Index(button, row), table, art, Called(column, RowName(row)), hover);
         QObject::connect(made.buttons[row], &QAbstractButton::clicked, made.buttons[row],
@@ -110,7 +129,7 @@ void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Event
         const LabelLook& look = row == TotalRow::ColumnTotal ? columnTotalLook : sumLook;
         made.totals[row] = new TextLabel(label + totalSuffixes[row], table, look, Qt::AlignHCenter);
         made.totals[row]->setFont(boxFont);
-        made.totals[row]->setAccessibleDescription(Called(column, totalNames[row]));
+        SetTotalText(column, row, {});
     }
 }
 
@@ -128,8 +147,8 @@ void Board::PlaceColumn(ScoreColumn column, int columns) {
     const bool used = columns == 4 || column == ScoreColumn::Rand;
     for (int row = 0; row < rowCount; ++row) {
         const int top = boxTops[row];
-        Put(Box(column, row), BoxPlace(column, top, boxLabelHeight, columns));
-        Box(column, row).setVisible(used);
+        Put(BoxLabel(column, row), BoxPlace(column, top, boxLabelHeight, columns));
+        BoxLabel(column, row).setVisible(used);
         Put(Button(column, row), BoxPlace(column, top, boxButtonHeight, columns));
     }
     for (TotalRow row : allTotalRows) {
@@ -137,6 +156,34 @@ void Board::PlaceColumn(ScoreColumn column, int columns) {
         Put(Total(column, row), BoxPlace(column, top, boxLabelHeight, columns));
         Total(column, row).setVisible(used && (columns == 4 || row != TotalRow::ColumnTotal));
     }
+}
+
+void Board::SetBoxText(ScoreColumn column, int row, const QString& text) {
+    SetSpokenText(BoxLabel(column, row), Called(column, RowName(row)), text);
+}
+
+void Board::SetTotalText(ScoreColumn column, TotalRow row, const QString& text) {
+    SetSpokenText(Total(column, row), Called(column, totalNames[row]), text);
+}
+
+void Board::SetHint(int row, const QString& points) {
+    hints_[row] = points;
+    SayHint(row);
+}
+
+void Board::ShowHints(bool on) {
+    hintsShown_ = on;
+    for (int row = 0; row < rowCount; ++row) SayHint(row);
+}
+
+void Board::SayHint(int row) {
+    for (ScoreColumn column : allColumns) Button(column, row).SetHint(hintsShown_ ? hints_[row] : QString());
+}
+
+void Board::ShowMark(const std::optional<Box>& mark) {
+    for (ScoreColumn column : allColumns)
+        for (int row = 0; row < rowCount; ++row)
+            Button(column, row).SetMarked(mark ? std::optional(*mark == Box{column, row}) : std::nullopt);
 }
 
 void Board::SetPointer(const QCursor& pointer) {

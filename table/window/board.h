@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "kit/controls.h"
+#include "table/box_mark.h"
 #include "table/window/layout.h"
 
 // A button over an open box; hidden and disabled at first. It tells when the mouse comes onto it while it can be
@@ -13,6 +14,7 @@ public:
 
     // box: what a screen reader calls the box that the button stands over.
     BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover);
+    void SetHint(const QString& points);  // what the box would score; empty when the player is not told
 
 protected:
     void enterEvent(QEnterEvent* event) override;
@@ -25,7 +27,7 @@ private:
     void TellHover(bool on);
     void SayState();
 
-    QString box_;
+    QString box_, hint_;
     Hover hover_;
     bool hovered_ = false;
 };
@@ -44,8 +46,11 @@ public:
     void SetPointer(const QCursor& pointer);
 
     BoxButton& Button(ScoreColumn column, int row) { return *columns_[column].buttons[row]; }
-    TextLabel& Box(ScoreColumn column, int row) { return *columns_[column].boxes[row]; }
-    TextLabel& Total(ScoreColumn column, TotalRow row) { return *columns_[column].totals[row]; }
+    void SetBoxText(ScoreColumn column, int row, const QString& text);
+    void SetTotalText(ScoreColumn column, TotalRow row, const QString& text);
+    void SetHint(int row, const QString& points);  // empty: none
+    void ShowHints(bool on);
+    void ShowMark(const std::optional<Box>& mark);
     void SetBoxPicture(int row, bool normal);
 
 private:
@@ -55,6 +60,9 @@ private:
         ByTotalRow<TextLabel*> totals{};
     };
 
+    TextLabel& BoxLabel(ScoreColumn column, int row) { return *columns_[column].boxes[row]; }
+    TextLabel& Total(ScoreColumn column, TotalRow row) { return *columns_[column].totals[row]; }
+    void SayHint(int row);
     void TellColumns();
     void MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events);
     void PlaceColumn(ScoreColumn column, int columns);
@@ -63,4 +71,6 @@ private:
     Picture* arrowsFour_;
     Picture* arrowsOne_;
     ByColumn<Column> columns_;
+    ByRow<QString> hints_;
+    bool hintsShown_ = false;
 };

@@ -1,5 +1,7 @@
 #include "table/window/counter_display.h"
 
+#include "kit/spoken.h"
+
 namespace {
 QString ArtOf(char glyph) { return glyph == '-' ? QString("digit_minus") : QString("digit_") + glyph; }
 }  // namespace
@@ -7,15 +9,23 @@ QString ArtOf(char glyph) { return glyph == '-' ? QString("digit_minus") : QStri
 CounterDisplay::CounterDisplay(QWidget* parent, Art& art, const GlyphColumns& picture)
     : QWidget(parent), art_(art), picture_(picture) {
     setObjectName("picScore");
-    setAccessibleName("Grand Total");
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    constexpr int longestStep = 300;  // ms between two pictures of one count
+    settled_.setSingleShot(true);
+    settled_.setInterval(longestStep);
+    settled_.callOnTimeout(this, &CounterDisplay::SayScore);
+    SayScore();
 }
 
 void CounterDisplay::Refresh() {
+    settled_.start();
+    repaint();
+}
+
+void CounterDisplay::SayScore() {
     QString shown;
     for (const GlyphRun& run : picture_.Runs()) shown += run.glyph;
-    setAccessibleDescription(shown);
-    repaint();
+    Say(*this, "Grand Total: " + (shown.isEmpty() ? "empty" : shown));
 }
 
 // In device pixels, so that at a fractional scale the glyphs keep clear of the frame that is part of the blank picture.

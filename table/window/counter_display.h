@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "kit/art.h"
@@ -16,6 +17,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void SayScore();
+
     Art& art_;
     const GlyphColumns& picture_;
+    QTimer settled_;  // a screen reader is told once, when the count has ended
 };

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 #include "table/window/tool_tips.h"
 
 namespace {
@@ -12,8 +13,8 @@ PictureButton::Looks FreeLooks(int face) { return {.plain = Index("die_free", fa
 PictureButton::Looks RollingLooks(int face) { return {.plain = Index("die_roll", face)}; }
 PictureButton::Looks HeldLooks(int face) { return {.plain = Index("die_held", face)}; }
 
-QString Said(int i, int face, const char* state) {
-    return QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state);
+void SayDie(QWidget& die, int i, int face, const char* state) {
+    Say(die, QString("Die %1 shows %2, %3").arg(i + 1).arg(face).arg(state));
 }
 
 PictureButton::Looks RollLooks(RollPicture kind) {
@@ -77,16 +78,21 @@ void DiceTray::MakeDie(int i, QWidget* table, Art& art, const Events& events) {
     die.frame = new Shape(dieFrameNames[i], table, QColor());  // the shadow of a die lies in its picture
     die.free = new PictureButton(Index("picDice", i), table, art, {});
     die.held = new PictureButton(Index("PicDiceOff", i), table, art, {});
+    SayChecked(*die.free, false);
+    SayChecked(*die.held, true);
     ShowFree(i);
     ShowFace(i, i + 1);
     EnableDie(i, false);
-    QObject::connect(die.free, &QAbstractButton::clicked, die.free, [hold = events.hold, i] { hold(i); });
-    QObject::connect(die.held, &QAbstractButton::clicked, die.held, [release = events.release, i] { release(i); });
+    QObject::connect(die.free, &QAbstractButton::clicked, die.free, [press = events.die, i] { press(i); });
+    QObject::connect(die.held, &QAbstractButton::clicked, die.held, [press = events.die, i] { press(i); });
 }
 
 void DiceTray::MakeRollButton(Art& art, const Events& events) {
     QObject::connect(roll_, &QAbstractButton::pressed, roll_, events.rollDown);
     QObject::connect(roll_, &QAbstractButton::released, roll_, events.rollUp);
+    lamps_ = new QWidget(roll_->parentWidget());
+    lamps_->setObjectName("lamps");
+    lamps_->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int k = 0; k < lampCount; ++k) {
         const Place place{lampLefts[k], lampTop, lampSize, lampSize};
         darkLamps_[k] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
@@ -113,6 +119,8 @@ void DiceTray::LayOut(int columns, int lastDieIndex) {
     Put(*rollFrame_, rollFramePlace.In(columns));
     const Place roll = rollPlace.In(columns);
     Put(*roll_, roll);
+    constexpr int lampsWidth = lampLefts[lampCount - 1] + lampSize - lampLefts[0];
+    Put(*lamps_, Within(roll, {lampLefts[0], lampTop, lampsWidth, lampSize}));
     Put(*nextPlayer_, Within(roll, nextPlayerPlace));
     Put(*showBoard_, Within(roll, showBoardPlace));
     for (int i = 0; i < maxDice; ++i) {
@@ -136,8 +144,8 @@ void DiceTray::SetRollPicture(RollPicture kind) { roll_->SetLooks(RollLooks(kind
 void DiceTray::ShowFace(int i, int face) {
     At(i).free->SetLooks(FreeLooks(face));
     At(i).held->SetLooks(HeldLooks(face));
-    At(i).free->setAccessibleName(Said(i, face, "free"));
-    At(i).held->setAccessibleName(Said(i, face, "held"));
+    SayDie(*At(i).free, i, face, "free");
+    SayDie(*At(i).held, i, face, "held");
 }
 
 void DiceTray::ShowRollingFace(int i, int face) { At(i).free->SetLooks(RollingLooks(face)); }
@@ -167,6 +175,7 @@ void DiceTray::SetLamps(int n) {
         litLamps_[k]->setVisible(k < n);
         darkLamps_[k]->setVisible(k >= n);
     }
+    Say(*lamps_, QString("Roll %1 of %2").arg(n).arg(lampCount));
 }
 
 void DiceTray::ShowNextPlayer(bool on) {

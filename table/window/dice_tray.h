@@ -30,7 +30,7 @@ class DiceTray {
 public:
     struct Events {
         std::function<void()> rollDown, rollUp, rollCancelled, nextPlayer, showBoard;
-        std::function<void(int i)> hold, release;
+        std::function<void(int i)> die;  // held or released
     };
 
     DiceTray(QWidget* table, Art& art, const Events& events);
@@ -69,6 +69,7 @@ private:
     RollButton* roll_;
     ByLamp<Picture*> darkLamps_{};
     ByLamp<Picture*> litLamps_{};
+    QWidget* lamps_ = nullptr;  // what a screen reader finds in their place
     CaptionButton* nextPlayer_ = nullptr;
     CaptionButton* showBoard_ = nullptr;
 };

@@ -1,18 +1,22 @@
 #include "table/window/frm_lucky_cup.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QScreen>
+#include <QWindow>
+#include <utility>
 
-#include "core/box_click.h"
 #include "core/hints.h"
 #include "core/turn.h"
-#include "core/two_players.h"
 #include "kit/look.h"
 #include "kit/pointers.h"
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 #include "table/main_window.h"
+#include "table/presses.h"
+#include "table/window/key_bindings.h"
 #include "table/window/tool_tips.h"
 
 namespace {
@@ -37,6 +41,12 @@ int KeyCode(const QKeyEvent& event) {
             return 0;
     }
 }
+
+std::function<void(Game&)> IfRollOpen(void (*handler)(Game&)) {
+    return [handler](Game& game) {
+        if (RollOpen(game)) handler(game);
+    };
+}
 }  // namespace
 
 frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
@@ -53,6 +63,7 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
       menuBar_(new MenuBar(this, art_, Commands())),
       statusBar_(new StatusBarWidget(table_)) {
     setObjectName("frmLuckyCup");
+    Say(*table_, "Table");
     score_->setToolTip(counterTip);
     setMenuBar(menuBar_);
     setCentralWidget(table_);
@@ -90,50 +101,86 @@ void frmLuckyCup::PlaceOnScreen() {
 
 void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
     gate_.Run([this, handler] {
-        if (game_) handler(*game_);
+        if (!game_) return;
+        handler(*game_);
+        if (!game_) return;  // it has left
+        Follow(*game_, mark_);
+        ShowMark();
     });
+}
+
+// A screen reader reaches what a dialog covers.
+void frmLuckyCup::Play(const std::function<void(Game&)>& handler) {
+    Run([this, handler](Game& game) {
+        if (!Covered()) handler(game);
+    });
+}
+
+bool frmLuckyCup::Covered() const {
+    const QWidget* dialog = QApplication::activeModalWidget();
+    return dialog && dialog != this;
+}
+
+void frmLuckyCup::ShowMark() {
+    if (std::exchange(shownMark_, mark_.box) == mark_.box) return;
+    board_.ShowMark(mark_.box);
+    SayFocus(mark_.box ? static_cast<QWidget&>(board_.Button(mark_.box->column, mark_.box->row)) : *this);
 }
 
 Board::Events frmLuckyCup::BoardEvents() {
     return {
-        .click = [this](ScoreColumn column, int row) { Run([=](Game& game) { ClickBox(game, column, row); }); },
+        .click =
+            [this](ScoreColumn column, int row) {
+                Play([=, this](Game& game) {
+                    mark_.last = {column, row};
+                    PressBox(game, column, row);
+                });
+            },
         .hover = [this](ScoreColumn column, int row, bool onButton) { Hover(column, row, onButton); },
     };
 }
 
 void frmLuckyCup::Hover(ScoreColumn column, int row, bool onButton) {
-    Run([=](Game& game) {
-        // New Game forgets the hover but not the light, so a mouse that leaves is reported once more before it goes.
-        if (!onButton) cmdBox_MouseMove(game, column, row, true);
-        cmdBox_MouseMove(game, column, row, onButton);
+    Run([=, this](Game& game) {
+        if (!onButton)
+            LeaveBox(game, {column, row});
+        else if (!mark_.box)
+            cmdBox_MouseMove(game, column, row, true);
     });
 }
 
 DiceTray::Events frmLuckyCup::TrayEvents() {
     return {
-        .rollDown = [this] { Run(picRollDices_MouseDown); },
-        .rollUp = [this] { Run(picRollDices_MouseUp); },
+        .rollDown = [this] { Play(IfRollOpen(picRollDices_MouseDown)); },
+        .rollUp = [this] { Play(IfRollOpen(picRollDices_MouseUp)); },
         .rollCancelled = [this] { Run(CancelRollPress); },
-        .nextPlayer = [this] { Run(cmdNextPlayer_MouseUp); },
-        .showBoard = [this] { Run(cmdShowNextBoard_Click); },
-        .hold = [this](int i) { Run([i](Game& game) { picDice_Click(game, i); }); },
-        .release = [this](int i) { Run([i](Game& game) { PicDiceOff_Click(game, i); }); },
+        .nextPlayer = [this] { Play(PressNextPlayer); },
+        .showBoard = [this] { Play(PressShowBoard); },
+        .die = [this](int i) { Play([i](Game& game) { PressDie(game, i); }); },
     };
 }
 
 CommandRunner frmLuckyCup::Commands() {
-    return {.run = [this](GameCommand command) { Run(command); }, .exit = [this] { close(); }};
+    return {.run = [this](GameCommand command) { Play(command); }, .exit = [this] { AskToLeave(); }};
 }
 
 void frmLuckyCup::SetBoxText(ScoreColumn column, int row, const std::string& text) {
-    board_.Box(column, row).setText(Text(text));
+    board_.SetBoxText(column, row, Text(text));
 }
 
 void frmLuckyCup::SetTotalText(ScoreColumn column, TotalRow row, const std::string& text) {
-    board_.Total(column, row).setText(Text(text));
+    board_.SetTotalText(column, row, Text(text));
 }
 
-void frmLuckyCup::SetTipText(int row, const std::string& text) { labels_.SetTip(row, Text(text)); }
+void frmLuckyCup::SetTipText(int row, const std::string& text) {
+    labels_.SetTip(row, Text(text));
+    board_.SetHint(row, Text(text));
+}
+
+void frmLuckyCup::ShowTipColumn(bool on) {
+    labels_.ShowTips(on);
+    board_.ShowHints(on);
+}
 
 void frmLuckyCup::SetFrameHeight(int columns) {
     labels_.SetFrameHeight(columns);
@@ -198,9 +245,25 @@ void frmLuckyCup::BlankScoreCounter(CounterPicture picture) {
 }
 
 void frmLuckyCup::keyPressEvent(QKeyEvent* event) {
-    const int code = KeyCode(*event);
-    if (code == 0) return QMainWindow::keyPressEvent(event);
-    Run([code](Game& game) { Form_KeyPress(game, code); });
+    if (const int code = KeyCode(*event)) return Play([code](Game& game) { Form_KeyPress(game, code); });
+    const auto key = PlayerKeyOf(*event);
+    if (!key) return QMainWindow::keyPressEvent(event);
+    Play([this, key](Game& game) { PressKey(game, mark_, *key); });
+}
+
+void frmLuckyCup::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    windowHandle()->installEventFilter(this);
+}
+
+// A mouse that moves takes over from the mark, before it comes onto a control. What the desktop reports of one that
+// rests does not count.
+bool frmLuckyCup::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseMove) {
+        const QPointF place = static_cast<QMouseEvent*>(event)->globalPosition();
+        if (std::exchange(mouse_, place) != place && mark_.kept) Run([this](Game& game) { TakeMarkAway(game, mark_); });
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void frmLuckyCup::changeEvent(QEvent* event) {
@@ -211,7 +274,19 @@ void frmLuckyCup::changeEvent(QEvent* event) {
 }
 
 void frmLuckyCup::closeEvent(QCloseEvent* event) {
-    bool leaves = false;
-    if (isEnabled() && !gate_.Busy()) Run([&](Game& game) { leaves = Form_QueryUnload(game); });
-    event->setAccepted(leaves);
+    // A question that is asked in the middle of closing could be left unanswered by closing once more.
+    event->setAccepted(game_ == nullptr);
+    if (game_ && isEnabled()) QMetaObject::invokeMethod(this, &frmLuckyCup::AskToLeave, Qt::QueuedConnection);
+}
+
+void frmLuckyCup::AskToLeave() {
+    if (leaving_ || Covered()) return;
+    leaving_ = true;
+    Run([this](Game& game) {
+        leaving_ = Form_QueryUnload(game);
+        if (!leaving_) return;
+        LetGo();
+        gate_.Shut();
+        close();
+    });
 }

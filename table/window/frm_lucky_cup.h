@@ -44,7 +44,7 @@ public:
     void SetTotalText(ScoreColumn column, TotalRow row, const std::string& text) override;
 
     void SetTipText(int row, const std::string& text) override;
-    void ShowTipColumn(bool on) override { labels_.ShowTips(on); }
+    void ShowTipColumn(bool on) override;
     void HighlightRowLabel(int row) override { labels_.Highlight(row, true); }
     void ResetRowLabel(int row) override { labels_.Highlight(row, false); }
 
@@ -75,15 +75,21 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void Run(const std::function<void(Game&)>& handler);
+    void Play(const std::function<void(Game&)>& handler);  // what a player does, and can't while a dialog stands open
+    void ShowMark();
     void Hover(ScoreColumn column, int row, bool onButton);
     Board::Events BoardEvents();
     DiceTray::Events TrayEvents();
     CommandRunner Commands();
+    bool Covered() const;  // by a modal window
+    void AskToLeave();
     void PlaceOnScreen();
     void SetPointersAndIcon();
     GlyphColumns& Counter(CounterPicture picture) { return counters_[picture]; }
@@ -101,5 +107,9 @@ private:
     ToolBar* toolBar_;
     MenuBar* menuBar_;
     StatusBarWidget* statusBar_;
+    BoxMark mark_;
+    std::optional<Box> shownMark_;
+    QPointF mouse_;  // on the screen
     bool minimized_ = false;
+    bool leaving_ = false;  // the player is being asked, or has left
 };

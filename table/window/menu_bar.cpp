@@ -1,14 +1,15 @@
 #include "table/window/menu_bar.h"
 
 #include <QActionGroup>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <span>
 
 #include "core/new_game.h"
-#include "core/redo.h"
-#include "core/undo.h"
 #include "kit/art_icon.h"
+#include "kit/spoken.h"
 #include "table/commands.h"
+#include "table/presses.h"
 
 namespace {
 enum class Kind { Command, Checked, Exit, Separator };
@@ -39,8 +40,8 @@ constexpr MenuEntry gameMenu[] = {
 };
 
 constexpr MenuEntry toolsMenu[] = {
-    {"mnuUndoUndo", "&Undo", "", "menu_undo", Kind::Command, mnuUndoUndo_Click},
-    {"mnuUndoRedo", "&Redo", "", "menu_redo", Kind::Command, mnuUndoRedo_Click},
+    {"mnuUndoUndo", "&Undo", "", "menu_undo", Kind::Command, [](Game& game) { PressUndo(game); }},
+    {"mnuUndoRedo", "&Redo", "", "menu_redo", Kind::Command, [](Game& game) { PressRedo(game); }},
     Line("mnuHyphen2"),
     Checked("mnuHintsByRequest", "Show &Hints by Request"),
     Switch("mnuHintsByRequest2", "S&how Hints by Request", mnuHintsByRequest2_Click),
@@ -110,11 +111,13 @@ void AddMenu(MenuBar& bar, const char* name, const char* caption, std::span<cons
              const CommandRunner& runner) {
     QMenu* menu = bar.addMenu(caption);
     menu->setObjectName(name);
+    Say(*menu, QString(caption).remove('&'));
     for (const MenuEntry& entry : entries) AddEntry(*menu, entry, art, runner);
 }
 }  // namespace
 
 MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenuBar(parent) {
+    Say(*this, "Menu bar");
     AddMenu(*this, "mnuGame", "&Game", gameMenu, art, runner);
     AddMenu(*this, "mnuTools", "&Tools", toolsMenu, art, runner);
     AddMenu(*this, "mnuHelp", "&Help", helpMenu, art, runner);
@@ -122,6 +125,14 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
     redo_ = Entry("mnuUndoRedo");
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
             [this] { setActiveAction(actions().front()); });
+}
+
+// A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table.
+void MenuBar::keyPressEvent(QKeyEvent* event) {
+    if (activeAction())
+        QMenuBar::keyPressEvent(event);
+    else
+        event->ignore();
 }
 
 void MenuBar::SetStyle(QStyle& style) {

@@ -18,6 +18,9 @@ public:
     void ShowChoice(MenuChoice choice, bool on);
     void EnableCheckedHintEntries(bool byRequest, bool allways);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QAction* Entry(const char* name) const { return findChild<QAction*>(name); }
 

@@ -1,6 +1,7 @@
 #include "table/window/row_labels.h"
 
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 #include "table/row_names.h"
 #include "table/window/tool_tips.h"
 
@@ -30,6 +31,7 @@ void PutIntoFrame(TextLabel& label, Shape& frame, const Place& labelPlace, const
 }  // namespace
 
 RowLabels::RowLabels(QWidget* table) : panel_(new Shape(rowPanelPlace.name, table, colour::rowPanel)) {
+    Say(*panel_, "Rows");
     for (int row = 0; row < rowCount; ++row) MakeRow(row);
     for (std::size_t i = 0; i < sumRows.size(); ++i) MakeSumRow(i);
 }
@@ -42,7 +44,7 @@ void RowLabels::MakeRow(int row) {
     labels_[row]->setToolTip(rowTips[row]);
     tipFrames_[row] = new Shape(Index("Shape12", row), panel_, colour::black, colour::rowFrame, colour::rowFrame);
     tips_[row] = new TextLabel(Index("lblTip", row), panel_, tipLook, Qt::AlignHCenter);
-    tips_[row]->setAccessibleDescription(QString("Hint for ") + RowName(row));
+    SetTip(row, {});
     PutIntoFrame(*tips_[row], *tipFrames_[row], LabelPlace(row, tipLeft, tipWidth),
                  FramePlace(boxTops[row], boxLabelHeight, tipLeft, tipWidth));
 }
@@ -52,6 +54,7 @@ void RowLabels::MakeSumRow(std::size_t i) {
     sumFrames_[i] = new Shape(sumRows[i].frame, panel_, colour::sumLabel, colour::rowFrame, colour::rowFrame);
     sums_[i] = new TextLabel(sumRows[i].label, panel_, sumLook, Qt::AlignRight);
     sums_[i]->setText(text);
+    Say(*sums_[i], text.trimmed());
     sums_[i]->SetMargins(2, text.endsWith(' ') ? 2 : 5);
     sums_[i]->setToolTip(sumTips[i]);
 }
@@ -68,6 +71,11 @@ void RowLabels::LayOut(int columns) {
         sums_[i]->setVisible(shown);
         sumFrames_[i]->setVisible(shown);
     }
+}
+
+void RowLabels::SetTip(int row, const QString& text) {
+    tips_[row]->setText(text);
+    Say(*tips_[row], QString("Hint for %1: %2").arg(RowName(row), text.isEmpty() ? QString("none") : text));
 }
 
 void RowLabels::ShowTips(bool on) {

@@ -10,7 +10,7 @@ public:
 
     void SetFrameHeight(int columns);
     void LayOut(int columns);
-    void SetTip(int row, const QString& text) { tips_[row]->setText(text); }
+    void SetTip(int row, const QString& text);
     void ShowTips(bool on);
     void Highlight(int row, bool on);
 

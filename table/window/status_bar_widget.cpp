@@ -5,6 +5,7 @@
 #include "kit/controls.h"
 #include "kit/size.h"
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 #include "table/window/layout.h"
 
 namespace {
@@ -27,22 +28,42 @@ protected:
     }
 };
 
+// The name of the clock does not change with every second. A text that only moves is told once.
+constexpr int clockPanel = 5;
+constexpr Indexed<const char*, clockPanel, int, 1> panelNames{
+    {"On move", "What to do", "Totals", "Progress", "Time played"}};
+
+QString SpokenText(int k, const QString& text) {
+    return text.isEmpty() ? QString(panelNames[k]) : QString("%1: %2").arg(panelNames[k], text);
+}
+
 QLabel* MakePanel(int k, QWidget* parent) { return k == 1 ? new NamePanel(parent) : new QLabel(parent); }
 }  // namespace
 
 StatusBarWidget::StatusBarWidget(QWidget* parent) : QWidget(parent) {
     setObjectName("StatusBar1");
+    Say(*this, "Status bar");
+    SetRole(*this, QAccessible::StatusBar);
     SetLetters(*this, TableFont(false));
     for (int k = 1; k <= 5; ++k) {
         panels_[k].label = MakePanel(k, this);
         panels_[k].label->setObjectName(QString("StatusBar1_%1").arg(k));
         panels_[k].label->setTextFormat(Qt::PlainText);
+        Say(*panels_[k].label, SpokenText(k, {}));
         panels_[k].label->hide();
     }
-    panels_[5].visible = true;
+    panels_[clockPanel].visible = true;
 }
 
-void StatusBarWidget::SetPanelText(int k, const QString& text) { panels_[k].label->setText(text); }
+void StatusBarWidget::SetPanelText(int k, const QString& text) {
+    QLabel& label = *panels_[k].label;
+    const bool moves = text.size() == label.text().size() && (text + text).contains(label.text());
+    label.setText(text);
+    if (k == clockPanel)
+        label.setAccessibleDescription(text);
+    else if (!moves)
+        Say(label, SpokenText(k, text));
+}
 
 void StatusBarWidget::SetPanelLayout(int k, int widthInTwips, bool visible) {
     panels_[k].width = widthInTwips;
@@ -56,7 +77,7 @@ void StatusBarWidget::PlacePanels() {
     for (Panel& panel : panels_) {
         panel.label->setVisible(panel.visible);
         if (!panel.visible) continue;
-        const bool last = &panel == &panels_[5];
+        const bool last = &panel == &panels_[clockPanel];
         const int right = last ? width() : left + Pixels(panel.width);
         panel.label->setGeometry(left + inset, 1, right - left - 2 * inset, height() - 2);
         left = right + gap;

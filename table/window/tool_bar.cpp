@@ -4,11 +4,11 @@
 #include <QStyleOption>
 
 #include "core/new_game.h"
-#include "core/redo.h"
-#include "core/undo.h"
 #include "kit/size.h"
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 #include "table/commands.h"
+#include "table/presses.h"
 #include "table/window/layout.h"
 
 namespace {
@@ -32,10 +32,10 @@ constexpr Key separator{"", "", "", nullptr};
 constexpr Indexed<Key, keyCount, int, 1> keys{{{
     {"tbNew", "New Game", "tb_new", mnuNewGame_Click},
     separator,
-    {"tbUndo", "Undo", "tb_undo", mnuUndoUndo_Click},
-    {"tbRedo", "Redo", "tb_redo", mnuUndoRedo_Click},
+    {"tbUndo", "Undo", "tb_undo", [](Game& game) { PressUndo(game); }},
+    {"tbRedo", "Redo", "tb_redo", [](Game& game) { PressRedo(game); }},
     separator,
-    {"tbHint", "Show Hints", "tb_hint", tbHint_Click},
+    {"tbHint", "Show Hints", "tb_hint", [](Game& game) { PressHint(game); }},
     separator,
     {"tbSound", "Sounds On/Off", "tb_sound_off", tbSound_Click},
     {"tbBGmusic", "Music On/Off", "tb_music_off", tbBGmusic_Click},
@@ -50,7 +50,7 @@ public:
     ToolKey(QWidget* parent, Art& art, const Key& key) : QAbstractButton(parent), art_(art) {
         setObjectName(key.name);
         setToolTip(key.toolTip);
-        setAccessibleName(key.toolTip);
+        Say(*this, key.toolTip);
         setFocusPolicy(Qt::NoFocus);
         setAttribute(Qt::WA_Hover);
         SetPicture(key.picture);
@@ -82,6 +82,8 @@ private:
 
 ToolBar::ToolBar(QWidget* parent, Art& art, const CommandRunner& runner) : QWidget(parent) {
     setObjectName("Toolbar2");
+    Say(*this, "Toolbar");
+    SetRole(*this, QAccessible::ToolBar);
     int left = leftMargin;
     for (int i = 1; i <= keyCount; ++i) {
         const GameCommand command = keys[i].command;
@@ -107,10 +109,12 @@ void ToolBar::SetHintEnabled(bool on) { buttons_[hintButton]->setEnabled(on); }
 
 void ToolBar::ShowSound(bool on) {
     static_cast<ToolKey&>(*buttons_[soundButton]).SetPicture(on ? "tb_sound_on" : "tb_sound_off");
+    SayChecked(*buttons_[soundButton], on);
 }
 
 void ToolBar::ShowMusic(bool on) {
     static_cast<ToolKey&>(*buttons_[musicButton]).SetPicture(on ? "tb_music_on" : "tb_music_off");
+    SayChecked(*buttons_[musicButton], on);
 }
 
 void ToolBar::paintEvent(QPaintEvent*) {

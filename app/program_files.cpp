@@ -1,0 +1,23 @@
+#include "app/program_files.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "core/program_folder.h"
+
+namespace {
+std::string Folder(const QString& path) {
+    return AsFolder(QDir::toNativeSeparators(QDir::cleanPath(path)).toStdString());
+}
+}  // namespace
+
+ProgramFiles FilesInOneFolder(const std::string& folder) { return {folder, folder, ScoresFolder(folder)}; }
+
+ProgramFiles FindProgramFiles(const QString& programFolder, const QString& userFolder) {
+    const bool installed = QFileInfo(programFolder + "/" LUCKYCUP_DATA).isDir();
+    if (!installed || QFileInfo::exists(programFolder + "/base.cur")) return FilesInOneFolder(Folder(programFolder));
+
+    const std::string scores = ScoresFolder(Folder(userFolder));
+    QDir().mkpath(QString::fromStdString(scores));
+    return {Folder(programFolder + "/" LUCKYCUP_DATA), Folder(programFolder + "/" LUCKYCUP_PLUGINS), scores};
+}

@@ -1,0 +1,13 @@
+#include "app/single_instance.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace {
+QString LockPath() {
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return (own.isEmpty() ? QDir::homePath() : own) + "/LuckyCup.lock";
+}
+}  // namespace
+
+bool TakeOnlyInstance(FileLock& lock) { return lock.Try(LockPath(), LockOn::File) != LockAttempt::HeldByAnother; }

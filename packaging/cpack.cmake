@@ -1,0 +1,11 @@
+# Read by cpack once for each kind of package.
+if(CPACK_GENERATOR STREQUAL "DEB")
+  set(component system)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+else()
+  set(component folder)
+  set(CPACK_PACKAGE_FILE_NAME luckycup-${CPACK_PACKAGE_VERSION}-linux-${CMAKE_HOST_SYSTEM_PROCESSOR})
+  set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+endif()
+list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build_folder)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${build_folder};LuckyCup;${component};/")

@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include "kit/pointers.h"
+#include "kit/qt_clock.h"
+#include "kit/regular_file.h"
+#include "store/windows_1252.h"
+
+namespace {
+
+TEST(ShortDateText, FitsAScoreRecordEverywhere) {
+    const std::pair<const char*, std::pair<const char*, const char*>> places[] = {
+        {"en_US", {"11/23/26", "1/2/26"}},       {"de_DE", {"23.11.26", "02.01.26"}},
+        {"en_GB", {"23/11/2026", "02/01/2026"}}, {"ar_EG", {"2026-11-23", "2026-01-02"}},
+        {"fa_IR", {"2026-11-23", "2026-01-02"}}, {"mr_IN", {"2026-11-23", "2026-01-02"}},
+        {"my_MM", {"2026-11-23", "2026-01-02"}}, {"ne_NP", {"2026-11-23", "2026-01-02"}},
+        {"hr_HR", {"2026-11-23", "2026-01-02"}}, {"hu_HU", {"2026-11-23", "2026-01-02"}},
+        {"sk_SK", {"2026-11-23", "2026-01-02"}}, {"C", {"2026-11-23", "2026-01-02"}},
+    };
+    for (const auto& [name, texts] : places) {
+        EXPECT_EQ(ShortDateText(QLocale(name), {2026, 11, 23}), texts.first) << name;
+        EXPECT_EQ(ShortDateText(QLocale(name), {2026, 1, 2}), texts.second) << name;
+    }
+    const auto all = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+    ASSERT_GT(all.size(), 300);
+    for (const QLocale& locale : all)
+        for (const QDate date : {QDate(2026, 11, 23), QDate(2031, 1, 2)}) {
+            const QByteArray bytes = ToWindows1252(ShortDateText(locale, date).toStdString());
+            EXPECT_TRUE(bytes.size() >= 6 && bytes.size() <= 10 && !bytes.contains('?')) << locale.name().toStdString();
+        }
+}
+
+TEST(StartOfFile, ReadsOfRegularFilesOnly) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("base.cur");
+    const QByteArray name = QFile::encodeName(path);
+    EXPECT_EQ(StartOfFile(path, 10), "");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("0123456789") == 10 && file.flush());
+    EXPECT_EQ(StartOfFile(path, 4), "0123");
+    EXPECT_EQ(StartOfFile(path, 99), "0123456789");
+    ASSERT_TRUE(file.resize(5'000'000'000));
+    EXPECT_EQ(StartOfFile(path, 99).size(), 99);
+    QWidget window;
+    SetBasePointer(window, folder.path() + '/');
+    for (const auto& plant :
+         {+[](const char* at) { return mkfifo(at, 0600); }, +[](const char* at) { return mkdir(at, 0700); },
+          +[](const char* at) { return symlink("/dev/zero", at); }}) {
+        ASSERT_EQ((QFile::remove(path) || rmdir(name) == 0) ? plant(name) : -1, 0);
+        EXPECT_EQ(StartOfFile(path, 99), "");
+        SetBasePointer(window, folder.path() + '/');
+    }
+    EXPECT_FALSE(window.testAttribute(Qt::WA_SetCursor)) << "none of these is a pointer";
+}
+
+TEST(Art, DrawsWithoutAWorkerWhereNoThreadCanBeStarted) {
+    const pid_t child = fork();
+    if (child == 0) {
+        const rlimit one{1, 1};
+        // Whoever may do everything is not limited.
+        if (setrlimit(RLIMIT_NPROC, &one) != 0 || (geteuid() == 0 && setuid(65534) != 0)) _exit(2);
+        Art art;
+        art.RenderAhead({{"die_free_3", {8, 8}}});
+        _exit(art.Picture("die_free_3", {8, 8}).size() == QSize(8, 8) ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+}
+
+}  // namespace
