@@ -1,12 +1,16 @@
 #include "app/luckycup.h"
 
+#include <QScreen>
 #include <QStandardPaths>
 
 #include "app/program.h"
 #include "app/single_instance.h"
 #include "kit/look.h"
 #include "kit/message_box.h"
+#include "kit/sized_widgets.h"
+#include "store/size_store.h"
 #include "table/window/first_pictures.h"
+#include "table/window/layout.h"
 
 namespace {
 ProgramFiles Files() {
@@ -16,6 +20,7 @@ ProgramFiles Files() {
 }  // namespace
 
 int Main(QApplication& app) {
+    ChangeSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
     Art art;
     FileLock lock;
     if (!TakeOnlyInstance(lock)) {

@@ -7,10 +7,12 @@
 #include "dialogs/window/qt_dialogs.h"
 #include "kit/qt_clock.h"
 #include "kit/qt_timers.h"
+#include "kit/size_keys.h"
 #include "menus/menu_style.h"
 #include "sound/background_music.h"
 #include "sound/player/sound_loader.h"
 #include "store/settings_store.h"
+#include "store/size_store.h"
 #include "store/top_score_files.h"
 #include "table/table_parts.h"
 #include "table/window/frm_lucky_cup.h"
@@ -32,6 +34,7 @@ struct Program {
     EventGate gate;
     MenuStyle menuStyle{art};
     frmLuckyCup window{gate, art};
+    SizeKeys sizeKeys{window, StoreSize};
     QtTimers timers{gate};
     QtClock clock;
     SeededRandom random;

@@ -2,13 +2,15 @@
 
 #include <QIconEngine>
 
+#include "kit/size.h"
+
 namespace {
 class ArtIconEngine final : public QIconEngine {
 public:
     ArtIconEngine(Art& art, const QString& name, QSize size) : art_(art), name_(name), size_(size) {}
 
     QIconEngine* clone() const override { return new ArtIconEngine(art_, name_, size_); }
-    QSize actualSize(const QSize&, QIcon::Mode, QIcon::State) override { return size_; }
+    QSize actualSize(const QSize&, QIcon::Mode, QIcon::State) override { return Sized(size_); }
     void paint(QPainter* painter, const QRect& area, QIcon::Mode, QIcon::State) override {
         art_.Draw(*painter, area, name_);
     }

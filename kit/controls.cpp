@@ -4,22 +4,25 @@
 #include <algorithm>
 #include <utility>
 
+#include "kit/size.h"
+#include "kit/twips.h"
+
 QFont TableFont(bool bold, int pixels) {
     QFont font;
     font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
-    font.setPixelSize(pixels);
+    font.setPixelSize(SizedDown(pixels));
     font.setBold(bold);
     return font;
 }
 
 QFont BoxFont() {
-    QFont font = TableFont(true);
-    font.setFamilies(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + font.families());
+    QFont font;
+    font.setFamilies(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TableFont(true).families());
     return font;
 }
 
 QFont FittedFont(QFont font, const QString& text, int width) {
-    constexpr int smallest = 7;
+    const int smallest = SizedDown(7);
     while (font.pixelSize() > smallest && QFontMetrics(font).horizontalAdvance(text) > width)
         font.setPixelSize(font.pixelSize() - 1);
     return font;
@@ -70,14 +73,20 @@ void TextLabel::SetLook(const LabelLook& look) {
     update();
 }
 
+void TextLabel::SetMargins(int left, int right) {
+    leftMargin_ = left;
+    rightMargin_ = right;
+}
+
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (look_.ground.isValid()) painter.fillRect(rect(), look_.ground);
     PaintEdges(painter, rect(), look_.topLeftEdge, look_.bottomRightEdge);
     painter.setPen(look_.text);
-    painter.setFont(FittedFont(font(), text(), contentsRect().width()));
+    const QRect area = rect().adjusted(Sized(leftMargin_), 0, -Sized(rightMargin_), 0);
+    painter.setFont(FittedFont(font(), text(), area.width()));
     const int flags = static_cast<int>(alignment()) | Qt::TextSingleLine | Qt::TextDontClip;
-    painter.drawText(contentsRect().translated(0, drop_), flags, text());
+    painter.drawText(area.translated(0, Pixels(drop_)), flags, text());
 }
 
 Picture::Picture(const QString& name, QWidget* parent, Art& art, const QString& picture)
@@ -140,8 +149,8 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
-    constexpr qreal radius = 6;
-    constexpr qreal edge = 2.5;
+    const qreal radius = Sized(6.0);
+    const qreal edge = Sized(2.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF outer = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
@@ -166,7 +175,7 @@ QLinearGradient CaptionButton::Shaded(const QColor& top, const QColor& middle, c
 }
 
 void CaptionButton::PaintCaption(QPainter& painter) {
-    const QRect area = rect().adjusted(6, 4, -6, -4);
+    const QRect area = rect().adjusted(Sized(6), Sized(4), -Sized(6), -Sized(4));
     const int lines = area.height() / fontMetrics().lineSpacing();
     const int room = area.width() * std::max(1, lines - 2);  // a broken line is never quite full
     QTextOption wrapped(Qt::AlignCenter);

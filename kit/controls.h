@@ -41,11 +41,12 @@ inline constexpr QColor tip{0xFF, 0xFF, 0x00};
 inline constexpr QColor highlight{0xFF, 0xFF, 0xE1};
 }  // namespace colour
 
-// A font of the told families, or of those that stand for them, in device-independent pixels.
+// A font of the told families, or of those that stand for them, in so many device-independent pixels at the
+// told size.
 QFont TableFont(bool bold, int pixels = 11);
 // The same font, smaller where the text would not fit the width in pixels.
 QFont FittedFont(QFont font, const QString& text, int width);
-QFont BoxFont();  // of boxes and totals
+QFont BoxFont();  // the families of boxes and totals; the rest is their parent's
 
 // The edge of an area, one device pixel wide. An invalid colour paints nothing.
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight);
@@ -74,14 +75,15 @@ class TextLabel final : public QLabel {
 public:
     TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment);
     void SetLook(const LabelLook& look);
-    void SetDrop(int pixels) { drop_ = pixels; }  // how far below its middle the text stands
+    void SetMargins(int left, int right);       // pixels of the told size; of nothing at first
+    void SetDrop(int twips) { drop_ = twips; }  // how far below its middle the text stands
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     LabelLook look_;
-    int drop_ = 0;
+    int leftMargin_ = 0, rightMargin_ = 0, drop_ = 0;
 };
 
 // A picture that only shows.

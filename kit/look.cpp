@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "kit/controls.h"
+#include "kit/sized_style.h"
 
 namespace {
 struct RoleColour {
@@ -35,7 +36,7 @@ constexpr RoleColour disabledColours[] = {
 }  // namespace
 
 void PrepareLook() {
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new SizedStyle);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // the bar belongs to the window's picture
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
@@ -46,13 +47,17 @@ void ApplyLook() {
     for (const RoleColour& entry : disabledColours)
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
+    ApplyFonts();
+    QCoreApplication::setApplicationName("LuckyCup");
+    QGuiApplication::setDesktopFileName("luckycup");
+}
+
+void ApplyFonts() {
     // The menus keep the desktop's own font, which the next line would take from them.
     const QFont menuFont = QApplication::font("QMenu");
     QApplication::setFont(TableFont(false));
     for (const char* menu : {"QMenu", "QMenuBar"}) QApplication::setFont(menuFont, menu);
     QToolTip::setFont(TableFont(false));
-    QCoreApplication::setApplicationName("LuckyCup");
-    QGuiApplication::setDesktopFileName("luckycup");
 }
 
 void SetGameIcon(Art& art) {

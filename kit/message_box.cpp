@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "kit/controls.h"
+#include "kit/size.h"
 
 namespace {
 constexpr QSize iconSize(32, 32);
@@ -43,14 +44,14 @@ void WrapText(const QMessageBox& box) {
     auto* label = box.findChild<QLabel*>("qt_msgbox_label");
     if (!label) return;
     label->setWordWrap(true);
-    label->setFixedWidth(std::min(textWidth, label->fontMetrics().horizontalAdvance(label->text()) + 2));
+    label->setFixedWidth(std::min(Sized(textWidth), label->fontMetrics().horizontalAdvance(label->text()) + 2));
 }
 }  // namespace
 
 Answer ShowMessageBox(QWidget* parent, Art& art, const Message& message) {
     const bool mayCancel = message.buttons == MessageButtons::OkCancel;
     QMessageBox box(parent);
-    box.setIconPixmap(art.Scaled(PictureOf(message.icon), iconSize, box.devicePixelRatioF()));
+    box.setIconPixmap(art.Scaled(PictureOf(message.icon), Sized(iconSize), box.devicePixelRatioF()));
     box.setWindowTitle(QString::fromStdString(message.title));
     box.setFont(TableFont(false));
     box.setTextFormat(Qt::PlainText);

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kit/size.h"
+
 int Pixels(int twips) {
     constexpr double twipsPerPixel = 15;
-    return static_cast<int>(std::lround(twips / twipsPerPixel));
+    return static_cast<int>(std::lround(Sized(twips / twipsPerPixel)));
 }
 
 QRect Pixels(const Place& place) {

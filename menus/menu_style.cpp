@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "kit/controls.h"
+#include "kit/size.h"
 #include "menus/menu_colours.h"
 
 namespace {
@@ -26,7 +27,9 @@ constexpr int checkMarkWidth = 12;
 
 int Middle(int whole, int part) { return static_cast<int>(std::lround((whole - part) / 2.0)); }
 
-QSize ImageSize(const QIcon& icon) { return icon.isNull() ? QSize(0, 0) : icon.actualSize({iconGutter, iconGutter}); }
+QSize ImageSize(const QIcon& icon) {
+    return icon.isNull() ? QSize(0, 0) : icon.actualSize(Sized(QSize(iconGutter, iconGutter)));
+}
 
 // What QMenu adds to the width of its widest entry.
 int ShortcutColumn(const QMenu& menu) {
@@ -39,7 +42,7 @@ int ShortcutColumn(const QMenu& menu) {
 }
 
 // The width of a line in device pixels.
-int LineWidth(const QPainter& painter) { return std::max(1, static_cast<int>(DeviceScale(painter))); }
+int LineWidth(const QPainter& painter) { return std::max(1, static_cast<int>(Sized(DeviceScale(painter)))); }
 
 void Fill(QPainter& painter, const QRect& area, const QColor& colour) {
     const QRect device = DeviceArea(painter, area);
@@ -66,9 +69,9 @@ void RaiseEdge(QPainter& painter, const QRect& area) { DrawEdge(painter, area, c
 
 // A dark line and below it a light one.
 void EtchLine(QPainter& painter, const QRect& item) {
-    const int top = item.top() + Middle(item.height(), 2);
-    const int width = LineWidth(painter);
-    QRect line = DeviceArea(painter, QRect(item.left() + separatorInset, top, item.width() - 2 * separatorInset, 2));
+    const int top = item.top() + Middle(item.height(), Sized(2));
+    const int width = LineWidth(painter), inset = Sized(separatorInset);
+    QRect line = DeviceArea(painter, QRect(item.left() + inset, top, item.width() - 2 * inset, Sized(2)));
     line.setHeight(width);
     painter.save();
     UseDevicePixels(painter);
@@ -104,7 +107,7 @@ void DrawSunken(QPainter& painter, const QRect& place, const QIcon& icon) {
 void DrawIcon(QPainter& painter, const QStyleOptionMenuItem& item) {
     const QSize size = ImageSize(item.icon);
     const bool enabled = item.state & QStyle::State_Enabled;
-    const QPoint corner(enabled ? imageLeft : Middle(iconGutter, size.width()),
+    const QPoint corner(enabled ? Sized(imageLeft) : Middle(Sized(iconGutter), size.width()),
                         Middle(item.rect.height(), size.height()));
     const QRect place(item.rect.topLeft() + corner, size);
     if (enabled)
@@ -117,7 +120,8 @@ void DrawIcon(QPainter& painter, const QStyleOptionMenuItem& item) {
 // accelerators are equally thick in all rows.
 void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const QString& text, const QColor& colour,
                  bool enabled) {
-    const QRect line(cell.left(), cell.top() + Middle(cell.height(), textHeight), cell.width(), textHeight);
+    const int height = Sized(textHeight);
+    const QRect line(cell.left(), cell.top() + Middle(cell.height(), height), cell.width(), height);
     const QPoint corner = DeviceArea(painter, line).topLeft();
     const int flags = static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextShowMnemonic;
     const qreal scale = DeviceScale(painter);
@@ -138,17 +142,24 @@ void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const
 QFont GetMenuFont() {
     QFont font = QApplication::font("QMenu");
     if (font.family() == "Sans Serif") font.setFamilies(TableFont(false).families());
-    font.setPixelSize(letterHeight);
+    font.setPixelSize(SizedDown(letterHeight));
     return font;
 }
 
 MenuStyle::MenuStyle(Art& art, bool SkinOn) : QProxyStyle("Fusion"), art_(art), SkinOn_(SkinOn), font_(GetMenuFont()) {}
 
+QFont MenuStyle::Letters() const {
+    QFont font = font_;
+    font.setPixelSize(SizedDown(letterHeight));
+    return font;
+}
+
 QSize MenuStyle::MeasureODItem(const QStyleOptionMenuItem& item, bool barEntry) const {
     // The mark of the accelerator is measured with the text: it is the room between caption and shortcut.
-    const int width = QFontMetrics(font_).horizontalAdvance(QString(item.text).replace('\t', ' ')) + widthPadding;
-    const int height = std::max(ImageSize(item.icon).height(), textHeight) + rowPadding;
-    return {barEntry ? width : width + iconGutter, height};
+    const int width =
+        QFontMetrics(Letters()).horizontalAdvance(QString(item.text).replace('\t', ' ')) + Sized(widthPadding);
+    const int height = std::max(ImageSize(item.icon).height(), Sized(textHeight)) + Sized(rowPadding);
+    return {barEntry ? width : width + Sized(iconGutter), height};
 }
 
 void MenuStyle::FillGround(QPainter& painter, const QRect& area, const QWidget& widget) const {
@@ -157,7 +168,7 @@ void MenuStyle::FillGround(QPainter& painter, const QRect& area, const QWidget& 
     const QPointF corner(-widget.mapTo(widget.window(), QPoint()));
     const QPoint origin = painter.deviceTransform().map(corner).toPoint();
     const QRect device = DeviceArea(painter, area);
-    const QSize tile = (skinSize * DeviceScale(painter)).toSize();
+    const QSize tile = (skinSize * Sized(DeviceScale(painter))).toSize();
     painter.save();
     UseDevicePixels(painter);
     painter.drawTiledPixmap(device, art_.Picture("menu_skin", tile), device.topLeft() - origin);
@@ -168,13 +179,14 @@ void MenuStyle::DrawODItem(QPainter& painter, const QStyleOptionMenuItem& item) 
     const QRect& area = item.rect;
     if (item.menuItemType == QStyleOptionMenuItem::Separator) return EtchLine(painter, area);
     const bool hasImage = !item.icon.isNull();
+    const int gutter = Sized(iconGutter);
     const bool enabled = item.state & State_Enabled;
     const bool lit = enabled && item.state & State_Selected;
-    if (lit && hasImage) RaiseEdge(painter, {area.topLeft(), QSize(iconGutter, area.height())});
-    if (lit) Fill(painter, area.adjusted(hasImage ? iconGutter : 0, 0, 0, 0), GetMenuColor(u"Selected", SkinOn_));
+    if (lit && hasImage) RaiseEdge(painter, {area.topLeft(), QSize(gutter, area.height())});
+    if (lit) Fill(painter, area.adjusted(hasImage ? gutter : 0, 0, 0, 0), GetMenuColor(u"Selected", SkinOn_));
     const QColor colour = GetMenuColor(lit ? u"SelectedText" : u"menutext", SkinOn_);
-    painter.setFont(font_);
-    const QRect cell = area.adjusted(textLeft, 0, -rightMargin, 0);
+    painter.setFont(Letters());
+    const QRect cell = area.adjusted(Sized(textLeft), 0, -Sized(rightMargin), 0);
     DrawCaption(painter, cell, Qt::AlignLeft, item.text.section('\t', 0, 0), colour, enabled);
     DrawCaption(painter, cell, Qt::AlignRight, item.text.section('\t', 1), colour, enabled);
     if (hasImage) DrawIcon(painter, item);
@@ -193,7 +205,7 @@ void MenuStyle::DrawBarEntry(QPainter& painter, const QStyleOptionMenuItem& item
         RaiseEdge(painter, item.rect);
     }
     const QColor colour = GetMenuColor(selected && enabled ? u"SelectedText" : u"GeneralText", SkinOn_);
-    painter.setFont(font_);
+    painter.setFont(Letters());
     DrawCaption(painter, item.rect, Qt::AlignHCenter, item.text, colour, enabled);
 }
 
@@ -235,13 +247,13 @@ QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     if (type != CT_MenuItem || !item) return QProxyStyle::sizeFromContents(type, option, size, widget);
     const auto* const menu = qobject_cast<const QMenu*>(widget);
     const int addedByMenu = menu ? ShortcutColumn(*menu) : 0;
-    return MeasureODItem(*item, false) + QSize(checkMarkWidth - addedByMenu, 0);
+    return MeasureODItem(*item, false) + QSize(Sized(checkMarkWidth) - addedByMenu, 0);
 }
 
 int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     switch (metric) {
         case PM_MenuPanelWidth:
-            return menuFrame;
+            return std::max(1, Sized(menuFrame));
         case PM_MenuHMargin:
         case PM_MenuVMargin:
         case PM_MenuBarPanelWidth:

@@ -11,7 +11,8 @@ QFont GetMenuFont();
 
 // The look of a menu bar, its drop-downs and a toolbar: a tiled picture as ground, a small image beside each entry, a
 // dark highlight, the shortcut at the right. It is for the widgets that it is set on, and for no others. It outlives
-// them, and the pictures outlive it. All sizes are pixels of scale 1.
+// them, and the pictures outlive it. All sizes are pixels of scale 1
+// and of the told size of the program, with which they grow.
 class MenuStyle final : public QProxyStyle {
 public:
     // SkinOn: the ground is the tiled picture, otherwise it is of one colour.
@@ -26,6 +27,7 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
 private:
+    QFont Letters() const;
     QSize MeasureODItem(const QStyleOptionMenuItem& item, bool barEntry) const;
     void DrawODItem(QPainter& painter, const QStyleOptionMenuItem& item) const;
     void DrawBarEntry(QPainter& painter, const QStyleOptionMenuItem& item, bool byKeyboard) const;

@@ -66,18 +66,15 @@ bool CopyTo(const QString& path, const QByteArray& bytes) {
 
 bool IsStore(const QFileInfo& file) { return file.isFile() && file.size() <= longestStore; }
 
-void Write(QSettings& key, const GameSettings& settings) {
-    for (const SettingField& field : settingFields) {
-        const std::string text = std::visit([&](auto kind) { return Stored(kind, settings); }, field.kind);
-        RegSetString(key, field.name, text);
-    }
+void Write(QSettings& key, const NamedTexts& texts) {
+    for (const auto& [name, text] : texts) RegSetString(key, name, text);
     key.sync();
 }
 
-bool SameSettings(const QSettings& one, const QSettings& other) {
-    return std::ranges::all_of(settingFields, [&](const SettingField& field) {
-        const QLatin1String name(field.name.data(), static_cast<qsizetype>(field.name.size()));
-        return one.value(name) == other.value(name);
+bool Holds(const QSettings& key, const NamedTexts& texts) {
+    return std::ranges::all_of(texts, [&](const auto& entry) {
+        const QVariant value = key.value(QString::fromStdString(entry.first));
+        return value == QString::fromStdString(entry.second);
     });
 }
 
@@ -87,18 +84,18 @@ QString FolderForDrafts() {
     return own.isEmpty() ? QDir::tempPath() : own;
 }
 
-// A store's bytes with the settings written into them, empty when that fails. QSettings would wait for locks beside the
+// A store's bytes with the texts written into them, empty when that fails. QSettings would wait for locks beside the
 // file, and on a full disk of Qt 6.4 put an empty one in its place; so it is given a copy in a folder of its own, and
 // what it wrote is read back under another name, which it does not remember.
-QByteArray WithSettings(const QByteArray& store, const GameSettings& settings) {
+QByteArray WithTexts(const QByteArray& store, const NamedTexts& texts) {
     const QTemporaryDir folder(FolderForDrafts() + "/LuckyCup-XXXXXX");
     const QString draft = folder.filePath("draft.conf");
     const QString written = folder.filePath("written.conf");
     if (!CopyTo(draft, store)) return {};
     QSettings key(draft, QSettings::NativeFormat);
-    Write(key, settings);
+    Write(key, texts);
     if (!QFile::rename(draft, written)) return {};
-    return SameSettings(key, QSettings(written, QSettings::NativeFormat)) ? BytesOf(written) : QByteArray();
+    return Holds(QSettings(written, QSettings::NativeFormat), texts) ? BytesOf(written) : QByteArray();
 }
 
 }  // namespace
@@ -136,13 +133,25 @@ GameSettings RegistrySettings::LoadSettings() {
 }
 
 void RegistrySettings::SaveSettings(const GameSettings& settings) {
+    NamedTexts texts;
+    for (const SettingField& field : settingFields)
+        texts.emplace_back(field.name, std::visit([&](auto kind) { return Stored(kind, settings); }, field.kind));
+    SaveTexts(path_, texts);
+}
+
+void SaveTexts(const QString& path, const NamedTexts& texts) {
     if (!keptInFile) {
-        QSettings key(path_, QSettings::NativeFormat);
-        return Write(key, settings);
+        QSettings key(path, QSettings::NativeFormat);
+        return Write(key, texts);
     }
-    const QFileInfo old(path_);
+    const QFileInfo old(path);
     if (old.exists() && !(old.isFile() && old.isWritable())) return;
-    const QByteArray store = WithSettings(IsStore(old) ? BytesOf(path_) : QByteArray(), settings);
+    const QByteArray store = WithTexts(IsStore(old) ? BytesOf(path) : QByteArray(), texts);
     if (store.isEmpty() || !QDir().mkpath(old.path())) return;
-    ReplaceFile(path_, store, ownersOnly);
+    ReplaceFile(path, store, ownersOnly);
+}
+
+std::string LoadText(const QString& path, std::string_view name) {
+    if (keptInFile && !IsStore(QFileInfo(path))) return {};
+    return RegGetString(QSettings(path, QSettings::NativeFormat), name, {});
 }

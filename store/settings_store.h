@@ -3,6 +3,8 @@
 #include <QSettings>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "core/ports/settings_store.h"
 
@@ -12,6 +14,12 @@ void RegSetString(QSettings& key, std::string_view name, const std::string& text
 
 // Where the user's settings lie: a file or, on Windows, a key of the registry.
 QString UserSettingsPath();
+
+// One text of a store, empty when it is not there, and a change of some that leaves the others as they are. They keep
+// the promises that RegistrySettings makes below.
+using NamedTexts = std::vector<std::pair<std::string, std::string>>;
+std::string LoadText(const QString& path, std::string_view name);
+void SaveTexts(const QString& path, const NamedTexts& texts);
 
 // The user's settings: fifteen named texts. A store that cannot be read counts as empty, and one that cannot be
 // written stays as it is; neither is told. Nor does what lies in its place, or beside it, ever keep the program

@@ -4,6 +4,8 @@
 #include <sstream>
 
 #include "core/hints.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 #include "table/set_controls.h"
 #include "tests/window_table.h"
 
@@ -17,7 +19,7 @@ struct Told {
 };
 
 QRect InPixels(int left, int top, int width, int height) {
-    const auto pixels = [](int twips) { return static_cast<int>(std::lround(twips / 15.0)); };
+    const auto pixels = [](int twips) { return static_cast<int>(std::lround(twips * Size() / 1500.0)); };
     const int within = width && height ? 1 : 0;  // the end of a line belongs to it
     return {QPoint(pixels(left), pixels(top)), QPoint(pixels(left + width) - within, pixels(top + height) - within)};
 }
@@ -97,6 +99,18 @@ TEST(Layout, OfEachVariantIsAsToldWhateverCameBefore) {
         SetControls(changed.game);
         ShowHintColumn(changed.game);
         ExpectPlaces(changed);
+    }
+}
+
+TEST(Layout, IsTheToldOneTimesTheSize) {
+    for (const int bits : {0, 7}) {
+        WindowTable t(VariantOf(bits));
+        for (const int percent : {75, 100, 125, 150, 175, 200, 225, 250, 275, 300, 225, 100}) {
+            SCOPED_TRACE(percent);
+            ChangeSize(percent);
+            ExpectPlaces(t);
+            ExpectRowsInLine(t);
+        }
     }
 }
 

@@ -1,23 +1,26 @@
 #include "dialogs/window/dialog_window.h"
 
+#include <QScreen>
+
 #include "kit/controls.h"
 #include "kit/pointers.h"
-#include "kit/twips.h"
+#include "kit/sized_widgets.h"
 
 DialogWindow::DialogWindow(QWidget* owner, const char* name, const char* caption, int widthInTwips, int heightInTwips)
     : QDialog(owner) {
     setObjectName(name);
     setWindowTitle(caption);
-    setFixedSize(Pixels(widthInTwips), Pixels(heightInTwips));
-    setFont(TableFont(false));
+    FixSize(*this, widthInTwips, heightInTwips);
+    SetLetters(*this, TableFont(false));
 }
 
 void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share) {
     // Its own frame is not known before it is shown; it is as thick as that of the other window.
     const QRect outer = window.frameGeometry();
     const QSize frame = size() + outer.size() - window.size();
-    move(outer.left() + (outer.width() - frame.width()) / 2,
-         outer.top() + static_cast<int>((outer.height() - frame.height()) * share) + Pixels(twipsBelow));
+    const QPoint place(outer.left() + (outer.width() - frame.width()) / 2,
+                       outer.top() + static_cast<int>((outer.height() - frame.height()) * share) + Pixels(twipsBelow));
+    move(IntoView({place, frame}, window.screen()->availableGeometry()));
 }
 
 void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {

@@ -16,7 +16,8 @@ public:
 
     // Centre upon centre, and so far below.
     void PlaceOverOwner(int twipsBelow = 0) { PlaceOver(*parentWidget(), twipsBelow); }
-    // The same over any window. share: how much of the difference in height lies above this window.
+    // The same over any window, but not off its screen. share: how much of the difference in height lies above this
+    // window.
     void PlaceOver(const QWidget& window, int twipsBelow = 0, double share = 0.5);
     void SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable);
 };

@@ -4,6 +4,7 @@
 
 #include "dialogs/window/title_texts.h"
 #include "kit/controls.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 constexpr int innerWidth = 4950, margin = 360;
@@ -17,11 +18,11 @@ frmAbout::frmAbout(QWidget& mainWindow, Game& game, Art& art)
     setEnabled(true);  // a child of the window that has just been disabled
     AddTitle(*this, {margin, 300, innerWidth - 2 * margin, 420}, Qt::AlignHCenter);
     AddVersion(*this, {margin, 750, innerWidth - 2 * margin, 255}, Qt::AlignHCenter);
-    (new Picture("Image1", this, art, "about"))->setGeometry(Pixels(picturePlace));
+    Put(*new Picture("Image1", this, art, "about"), picturePlace);
     const Links links = AddLinks(*this, game, {810, 3705, 900, 255});
     auto* close = new QPushButton("&Close", this);
     close->setObjectName("cmdClose");
-    close->setGeometry(Pixels(closePlace));
+    Put(*close, closePlace);
     close->setDefault(true);
     close->setFocus();
     connect(close, &QPushButton::clicked, this, &QDialog::accept);

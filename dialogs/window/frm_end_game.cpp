@@ -3,18 +3,18 @@
 #include <QPushButton>
 
 #include "core/end_of_game.h"
-#include "kit/twips.h"
+#include "kit/sized_widgets.h"
 
 frmEndGame::frmEndGame(QWidget& owner, Game& game, Art& art)
     : DialogWindow(owner, "frmEndGame", "Finish Game?", 3675, 1020) {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     auto* finish = new QPushButton("&Finish Game", this);
     finish->setObjectName("cmdFinish");
-    finish->setGeometry(Pixels(Place{90, 285, 1665, 645}));
+    Put(*finish, {90, 285, 1665, 645});
     finish->setDefault(true);
     auto* undo = new QPushButton("&Undo Last Move", this);
     undo->setObjectName("cmdUndo");
-    undo->setGeometry(Pixels(Place{1920, 285, 1665, 645}));
+    Put(*undo, {1920, 285, 1665, 645});
     SetPointers(game, art, {finish, undo});
     PlaceOverOwner(2200);
     frmEndGame_Load(game);

@@ -1,12 +1,14 @@
 #include "dialogs/window/frm_quick_start.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QFile>
 #include <QPushButton>
 
 #include "dialogs/window/art_document.h"
 #include "dialogs/window/printing.h"
 #include "kit/controls.h"
+#include "kit/size.h"
 
 // The guide lies in a static library, which the linker would take without it.
 static void TakeGuide() { Q_INIT_RESOURCE(guide); }
@@ -41,11 +43,7 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
     RichTextBox1_->setObjectName("RichTextBox1");
     RichTextBox1_->setAccessibleName("Quick-start guide");
     SetColours(*RichTextBox1_);
-    auto* guide =
-        new ArtDocument(art, devicePixelRatioF(), TableFont(false, textFont), onGround, Guide("smile"), RichTextBox1_);
-    constexpr int margin = 14;
-    guide->setDocumentMargin(margin);
-    RichTextBox1_->setDocument(guide);
+    ShowGuide();
     auto* print = new QPushButton("&Print");
     print->setObjectName("cmdPrint");
     connect(print, &QPushButton::clicked, this, &frmQuickStart::Print);
@@ -64,9 +62,22 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
     PlaceOver(over);
 }
 
+void frmQuickStart::ShowGuide() {
+    auto* guide = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, TableFont(false, textFont), onGround,
+                                  Guide("smile"), RichTextBox1_);
+    constexpr int margin = 14;
+    guide->setDocumentMargin(Sized(margin));
+    ShowInPlace(*RichTextBox1_, guide);
+}
+
+void frmQuickStart::changeEvent(QEvent* event) {
+    DialogWindow::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) ShowGuide();
+}
+
 // What is selected, or else all of it, in dark on white.
 void frmQuickStart::Print() {
-    ArtDocument paper(art_, paperRatio, PaperFont(), onPaper, Guide("smile_dark"));
+    ArtDocument paper(art_, {paperRatio}, PaperFont(), onPaper, Guide("smile_dark"));
     const QTextCursor chosen = RichTextBox1_->textCursor();
     if (chosen.hasSelection()) {
         QTextCursor whole(&paper);

@@ -9,7 +9,11 @@ class frmQuickStart final : public DialogWindow {
 public:
     frmQuickStart(const QWidget& over, QWidget* owner, const Game& game, Art& art);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void ShowGuide();
     void Print();
 
     Art& art_;

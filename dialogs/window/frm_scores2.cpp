@@ -6,15 +6,18 @@
 #include <QTabBar>
 
 #include "kit/controls.h"
-#include "kit/twips.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 constexpr int formWidth = 6495;
 constexpr int titleHeight = 405;  // the told heights are those of the frame
 constexpr QColor listGround(239, 255, 210);
 constexpr int tableFont = 13;  // 9.75 points
+constexpr int tabFont = 11;
 constexpr int smallestFont = 8;
-constexpr int rowHeight = 18;  // pixels: twenty rows and the header fill the list
+constexpr Place tabsPlace{47, 0, 6400, 6225};
+constexpr int rowHeight = 18;  // pixels of the told size: twenty rows and the header fill the list
 constexpr std::array<int, 4> columnWidths{800, 2200, 1550, 1650};
 constexpr const char* tabCaptions[] = {"&Yamb - 6 Dice", "&Yamb - 5 Dice", "&Yahtzee - 6 Dice", "&Yahtzee - 5 Dice"};
 
@@ -69,26 +72,25 @@ frmScores2::frmScores2(QWidget& owner, Game& game, Art& art)
     SSTab1_->setCurrentIndex(form_.tab);
     MakeResult();
     LayOut();
+    FitToSize();
     ShowTable();
     Connect();
     LVScores_->setFocus();
 }
 
 void frmScores2::MakeTabs() {
-    SSTab1_->setGeometry(Pixels(Place{47, 0, 6400, 6225}));
+    Put(*SSTab1_, tabsPlace);
     for (const char* caption : tabCaptions) SSTab1_->addTab(new QWidget, caption);
     QTabBar* strip = SSTab1_->tabBar();
     strip->setAccessibleName("Top scores of");
     strip->setUsesScrollButtons(false);
     strip->installEventFilter(this);
-    for (int size = strip->font().pixelSize(); strip->sizeHint().width() > SSTab1_->width() && size > smallestFont;)
-        strip->setFont(TableFont(false, --size));
 }
 
 void frmScores2::MakeList() {
-    LVScores_->setGeometry(Pixels(Place{100, 375, 6260, 5780}).translated(-SSTab1_->pos()));
+    Put(*LVScores_, {100 - tabsPlace.left, 375, 6260, 5780});
     LVScores_->setAccessibleName("Top scores");
-    LVScores_->setFont(ListFont());
+    SetLetters(*LVScores_, ListFont(), tableFont);
     LVScores_->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     LVScores_->setLineWidth(2);
     SetColour(LVScores_, QPalette::Base, listGround);
@@ -100,29 +102,17 @@ void frmScores2::MakeList() {
 
     QHeaderView* rows = LVScores_->verticalHeader();
     rows->hide();
-    rows->setMinimumSectionSize(rowHeight);
-    rows->setDefaultSectionSize(rowHeight);
     QHeaderView* columns = LVScores_->horizontalHeader();
     columns->setSectionResizeMode(QHeaderView::Fixed);
     columns->setHighlightSections(false);
-    columns->setFixedHeight(LVScores_->height() - 2 * LVScores_->frameWidth() - scoreRecords * rowHeight);
-    for (int i = 0, left = 0; i < static_cast<int>(columnWidths.size()); ++i) {
-        const int width = columnWidths[static_cast<std::size_t>(i)];
-        LVScores_->setColumnWidth(i, Pixels({left, 0, width, 0}).width());
-        left += width;
-    }
 }
 
 void frmScores2::MakeResult() {
-    const QRect area = Pixels(Place{132, 6350, 6230, 585});
-    lblScore_->setGeometry(area);
+    Put(*lblScore_, {132, 6350, 6230, 585});
     lblScore_->setVisible(form_.lblScoreVisible);
     lblScore_->setTextFormat(Qt::PlainText);
     lblScore_->setText(QString::fromStdString(form_.lblScore).remove('\r'));
     SetColour(lblScore_, QPalette::WindowText, Qt::red);
-    int size = tableFont;
-    do lblScore_->setFont(TableFont(true, size));
-    while (lblScore_->sizeHint().width() > area.width() && --size >= smallestFont);
 }
 
 void frmScores2::LayOut() {
@@ -134,15 +124,50 @@ void frmScores2::LayOut() {
                            {right, top, 0, layout.linesBottom - top}};
     const char* const names[] = {"Line1", "Line2", "Line3", "Line4"};
     for (std::size_t i = 0; i < std::size(lines); ++i) {
-        const QPoint endPoint = lines[i].width == 0 ? QPoint(0, 1) : QPoint(1, 0);  // belongs to the line
-        const QRect area = Pixels(lines[i]);
         auto* line = new Shape(names[i], this, palette().color(QPalette::Mid));
-        line->setGeometry(QRect(area.topLeft(), area.bottomRight() + endPoint));
+        Put(*line, lines[i]);
     }
-    cmdClearTable_->setGeometry(Pixels(Place{132, layout.buttonsTop, 2000, 555}));
-    cmdReturn_->setGeometry(Pixels(Place{4362, layout.buttonsTop, 2000, 555}));
-    Check1_->setGeometry(Pixels(Place{40, layout.check1Top, 2925, 285}));
-    setFixedSize(Pixels(formWidth), Pixels(layout.height - titleHeight));
+    Put(*cmdClearTable_, {132, layout.buttonsTop, 2000, 555});
+    Put(*cmdReturn_, {4362, layout.buttonsTop, 2000, 555});
+    Put(*Check1_, {40, layout.check1Top, 2925, 285});
+    FixSize(*this, formWidth, layout.height - titleHeight);
+}
+
+void frmScores2::FitToSize() {
+    FitTabs();
+    FitResult();
+    FitList();
+}
+
+void frmScores2::FitTabs() {
+    QTabBar* strip = SSTab1_->tabBar();
+    int size = tabFont;
+    do strip->setFont(TableFont(false, size));
+    while (strip->sizeHint().width() > SSTab1_->width() && --size >= smallestFont);
+}
+
+void frmScores2::FitResult() {
+    int size = tableFont;
+    do lblScore_->setFont(TableFont(true, size));
+    while (lblScore_->sizeHint().width() > lblScore_->width() && --size >= smallestFont);
+}
+
+void frmScores2::FitList() {
+    const int row = SizedDown(rowHeight);
+    LVScores_->verticalHeader()->setMinimumSectionSize(row);
+    LVScores_->verticalHeader()->setDefaultSectionSize(row);
+    const int rowsHeight = 2 * LVScores_->frameWidth() + scoreRecords * row;
+    LVScores_->horizontalHeader()->setFixedHeight(LVScores_->height() - rowsHeight);
+    for (int i = 0, left = 0; i < static_cast<int>(columnWidths.size()); ++i) {
+        const int width = columnWidths[static_cast<std::size_t>(i)];
+        LVScores_->setColumnWidth(i, Pixels({left, 0, width, 0}).width());
+        left += width;
+    }
+}
+
+void frmScores2::changeEvent(QEvent* event) {
+    DialogWindow::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) FitToSize();
 }
 
 void frmScores2::Connect() {

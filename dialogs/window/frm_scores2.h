@@ -17,6 +17,7 @@ public:
     void done(int result) override;  // of every way out
 
 protected:
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;  // of the tab strip
 
 private:
@@ -24,6 +25,10 @@ private:
     void MakeList();
     void MakeResult();
     void LayOut();
+    void FitToSize();
+    void FitTabs();
+    void FitResult();
+    void FitList();
     void Connect();
     void AddTabShortcut(QKeySequence::StandardKey key, int step);
     void StepTab(int step);

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QScreen>
 
-#include "kit/twips.h"
+#include "kit/size.h"
 
 namespace {
 constexpr QSize pictureSize(378, 210);
@@ -12,9 +12,10 @@ constexpr int shownFor = 600;  // ms
 // The place is worked out in twips, with the picture in pixels on its way; so it stands left of the middle.
 QPoint PlaceOn(const QRect& screen) {
     constexpr int twipsPerPixel = 15;
-    const int left = (screen.width() * twipsPerPixel - pictureSize.width()) / 3;
-    const int top = (screen.height() * twipsPerPixel - pictureSize.height() * 16) / 2;
-    return screen.topLeft() + QPoint(Pixels(left), Pixels(top));
+    const QSize size = Sized(pictureSize);
+    const int left = (screen.width() * twipsPerPixel - size.width()) / 3;
+    const int top = (screen.height() * twipsPerPixel - size.height() * 16) / 2;
+    return screen.topLeft() + QPoint(left, top) / twipsPerPixel;
 }
 }  // namespace
 
@@ -25,7 +26,7 @@ frmSplash::frmSplash(Art& art, std::function<void()> end)
     setObjectName("frmSplash");
     setAccessibleName("Lucky Cup");
     setAttribute(Qt::WA_QuitOnClose, false);  // the table follows
-    setFixedSize(pictureSize);
+    setFixedSize(Sized(pictureSize));
     move(PlaceOn(screen()->geometry()));
     tmrUnload_.setSingleShot(true);
     tmrUnload_.setTimerType(Qt::PreciseTimer);  // a coarse one may come too early

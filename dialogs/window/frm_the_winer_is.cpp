@@ -4,7 +4,7 @@
 
 #include "core/end_of_game.h"
 #include "kit/controls.h"
-#include "kit/twips.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 constexpr int scoreFont = 13;  // 9.75 points
@@ -19,12 +19,11 @@ frmTheWinerIs::frmTheWinerIs(QWidget& owner, Game& game, Art& art)
     : DialogWindow(owner, "frmTheWinerIs", "And the Winer is...", 3915, 2010) {
     PlaceOverOwner();
     const WinnerTexts texts = frmTheWinerIs_Load(game);
-    AddLabel("lblPlayer1", Pixels(Place{180, 105, 2500, 280}), scoreFont, texts.lblPlayer1, scoreTail);
-    AddLabel("lblScore1", Pixels(Place{3000, 105, 800, 280}), scoreFont, texts.lblScore1);
-    AddLabel("lblPlayer2", Pixels(Place{180, 495, 2500, 240}), scoreFont, texts.lblPlayer2, scoreTail);
-    AddLabel("lblScore2", Pixels(Place{3000, 500, 800, 280}), scoreFont, texts.lblScore2);
-    QLabel* verdict =
-        AddLabel("lblWiner", Pixels(Place{200, 1000, 3500, 300}), verdictFont, texts.lblWiner, verdictTail);
+    AddLabel("lblPlayer1", {180, 105, 2500, 280}, scoreFont, texts.lblPlayer1, scoreTail);
+    AddLabel("lblScore1", {3000, 105, 800, 280}, scoreFont, texts.lblScore1);
+    AddLabel("lblPlayer2", {180, 495, 2500, 240}, scoreFont, texts.lblPlayer2, scoreTail);
+    AddLabel("lblScore2", {3000, 500, 800, 280}, scoreFont, texts.lblScore2);
+    QLabel* verdict = AddLabel("lblWiner", {200, 1000, 3500, 300}, verdictFont, texts.lblWiner, verdictTail);
     verdict->setAlignment(Qt::AlignCenter);
     QPalette red = verdict->palette();
     red.setColor(QPalette::WindowText, Qt::red);
@@ -32,21 +31,21 @@ frmTheWinerIs::frmTheWinerIs(QWidget& owner, Game& game, Art& art)
 
     auto* close = new QPushButton("Close", this);
     close->setObjectName("cmdClose");
-    close->setGeometry(Pixels(Place{980, 1500, 1890, 420}));
+    Put(*close, {980, 1500, 1890, 420});
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     SetPointers(game, art, {close});
 }
 
-QLabel* frmTheWinerIs::AddLabel(const char* name, const QRect& area, int fontPixels, const std::string& text,
+QLabel* frmTheWinerIs::AddLabel(const char* name, const Place& place, int fontPixels, const std::string& text,
                                 const QString& tail) {
     auto* label = new QLabel(this);
     label->setObjectName(name);
-    label->setGeometry(area);
-    label->setFont(TableFont(true, fontPixels));
+    Put(*label, place);
+    SetLetters(*label, TableFont(true), fontPixels);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setTextFormat(Qt::PlainText);
-    label->setText(FittedText(QString::fromStdString(text), tail, label->font(), area.width()));
+    label->setText(FittedText(QString::fromStdString(text), tail, label->font(), label->width()));
     label->setAccessibleName(QString::fromStdString(text));
     return label;
 }

@@ -7,6 +7,7 @@
 #include "dialogs/window/title_texts.h"
 #include "kit/controls.h"
 #include "kit/look.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 constexpr int left = 352, right = 5752;  // the edges of the picture, to which the rest keeps
@@ -24,19 +25,21 @@ frmWelcome::frmWelcome(Game& game, Art& art)
       Check1_(new QCheckBox("Don't show this dialog next time")) {
     SetGameIcon(art);
     setWindowModality(Qt::WindowModal);  // the help may stand beside it
-    (new Picture("Image1", this, art, "welcome"))->setGeometry(Pixels(picturePlace));
+    Put(*new Picture("Image1", this, art, "welcome"), picturePlace);
     AddTitle(*this, {left, 2580, 3450, 390}, Qt::AlignLeft);
     AddVersion(*this, {left + 3450, 2580, right - left - 3450, 390}, Qt::AlignRight);
     const Links links = AddLinks(*this, game, {left, 3060, 900, 255});
     QPushButton* play = AddButton("cmdPlay", "&Play", InRow(0), &frmWelcome::Play);
     play->setDefault(true);
-    play->setFont(TableFont(true));
+    QFont bold;
+    bold.setBold(true);
+    play->setFont(bold);
     QPushButton* options = AddButton("cmdOptions", "&Options", InRow(1), &frmWelcome::Options);
     QPushButton* guide = AddButton("cmdQuickStart", "&Quick Start", InRow(2), &frmWelcome::QuickStart);
     QPushButton* scores = AddButton("cmdScores", "&Top Scores", InRow(3), &frmWelcome::TopScores);
     Check1_->setParent(this);
     Check1_->setObjectName("Check1");
-    Check1_->setGeometry(Pixels(checkPlace));
+    Put(*Check1_, checkPlace);
     connect(Check1_, &QCheckBox::toggled, this, [this](bool on) { Check1_Change(game_, form_, on); });
     QPushButton* exit =
         AddButton("cmdExit", "&Exit", {InRow(3).left, exitTop, buttonWidth, buttonHeight}, &frmWelcome::Exit);
@@ -50,7 +53,7 @@ QPushButton* frmWelcome::AddButton(const char* name, const char* caption, const 
                                    void (frmWelcome::*click)()) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(name);
-    button->setGeometry(Pixels(place));
+    Put(*button, place);
     connect(button, &QPushButton::clicked, this, click);
     return button;
 }
@@ -59,7 +62,9 @@ void frmWelcome::PlaceOnScreen() {
     // Its own frame is not known before it is shown; this is what frames usually add.
     const QSize frame = size() + QSize(Pixels(90), Pixels(405));
     const QRect area = screen()->geometry();
-    move(area.left() + (area.width() - frame.width()) / 2, area.top() + (area.height() - frame.height()) / 2);
+    const QPoint place(area.left() + (area.width() - frame.width()) / 2,
+                       area.top() + (area.height() - frame.height()) / 2);
+    move(IntoView({place, frame}, screen()->availableGeometry()));
 }
 
 void frmWelcome::Play() {

@@ -1,6 +1,7 @@
 #include "dialogs/window/help_window.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QFile>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -15,6 +16,8 @@
 #include "dialogs/window/printing.h"
 #include "kit/controls.h"
 #include "kit/pointers.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 constexpr const char* title = "Lucky Cup Help";
@@ -55,18 +58,16 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
     setObjectName("Help");
     setWindowTitle(title);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setFont(TableFont(false));
-    resize(roomySize.boundedTo(screen()->availableSize()));
+    SetLetters(*this, TableFont(false));
+    resize(Sized(roomySize).boundedTo(screen()->availableSize()));
     text_->setObjectName("text");
     text_->setAccessibleName(title);
-    text_->setFont(TableFont(false, letters_));
-    text_->setDocument(new ArtDocument(art, devicePixelRatioF(), text_->font(), colours, html, text_));
-    text_->document()->setDocumentMargin(letters_);
+    FitToSize();
     AddContents();
     auto* both = new QSplitter;
     both->addWidget(contents_);
     both->addWidget(text_);
-    both->setSizes({contentsWidth, width() - contentsWidth});
+    both->setSizes({Sized(contentsWidth), width() - Sized(contentsWidth)});
     both->setStretchFactor(1, 1);
     both->setChildrenCollapsible(false);
     auto* all = new QVBoxLayout(this);
@@ -79,6 +80,19 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     SetBasePointer(*this, programFolder);
     text_->setFocus();
+}
+
+void HelpWindow::FitToSize() {
+    SetLetters(*text_, TableFont(false), letters_);
+    auto* document = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, text_->font(), colours, html_, text_);
+    document->setDocumentMargin(SizedDown(letters_));
+    ShowInPlace(*text_, document);
+    find_->setFixedWidth(Sized(contentsWidth));
+}
+
+void HelpWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) FitToSize();
 }
 
 QLayout* HelpWindow::MakeBar() {
@@ -108,7 +122,6 @@ QLayout* HelpWindow::MakeBar() {
     find_->setPlaceholderText("Find in this help");
     find_->setAccessibleName("Find in this help");
     find_->setClearButtonEnabled(true);
-    find_->setFixedWidth(contentsWidth);
     connect(find_, &QLineEdit::returnPressed, this, &HelpWindow::Find);
     bar->addWidget(find_);
     add("findNext", "Find", "Find the next place", QKeySequence::FindNext, [this] { Find(); });
@@ -156,10 +169,10 @@ void HelpWindow::Find() {
 
 void HelpWindow::Resize(int pixels) {
     letters_ = std::clamp(pixels, leastLetters, mostLetters);
-    text_->setFont(TableFont(false, letters_));
+    SetLetters(*text_, TableFont(false), letters_);
 }
 
 void HelpWindow::Print() {
-    const ArtDocument paper(art_, paperRatio, PaperFont(), colours, html_);
+    const ArtDocument paper(art_, {paperRatio}, PaperFont(), colours, html_);
     ::Print(*this, art_, paper, title);
 }

@@ -12,7 +12,11 @@ class HelpWindow final : public QWidget {
 public:
     HelpWindow(const QString& programFolder, const QString& html, Art& art);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void FitToSize();
     QLayout* MakeBar();
     void AddContents();
     void Find();
@@ -24,7 +28,7 @@ private:
     QTextBrowser* text_;
     QTreeWidget* contents_;
     QLineEdit* find_;
-    int letters_ = 13;  // pixels
+    int letters_ = 13;  // pixels of the told size
 };
 
 // The help of LCHelp23.hlp in the program's folder, which ends in the separator; not shown yet. Nothing when the file

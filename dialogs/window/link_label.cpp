@@ -4,19 +4,29 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-LinkLabel::LinkLabel(const char* name, QWidget* parent, const char* text, const std::string& target, const QRect& place)
-    : QAbstractButton(parent) {
+LinkLabel::LinkLabel(const char* name, QWidget* parent, const char* text, const std::string& target, const Place& place)
+    : QAbstractButton(parent), place_(place) {
     setObjectName(name);
     setText(text);
     setToolTip(QString::fromStdString(target));
     setAccessibleDescription("Opens " + toolTip());
     setFocusPolicy(Qt::StrongFocus);
-    QFont underlined = font();
+    QFont underlined;
     underlined.setUnderline(true);
     setFont(underlined);
+    FitText();
+}
+
+void LinkLabel::FitText() {
     constexpr int focusRoom = 2;
-    setGeometry(place.left() - focusRoom, place.top(), fontMetrics().horizontalAdvance(text) + 2 * focusRoom,
-                place.height());
+    const QRect line = Pixels(place_);
+    setGeometry(line.left() - focusRoom, line.top(), fontMetrics().horizontalAdvance(text()) + 2 * focusRoom,
+                line.height());
+}
+
+void LinkLabel::changeEvent(QEvent* event) {
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) FitText();
 }
 
 void LinkLabel::paintEvent(QPaintEvent*) {

@@ -1,5 +1,7 @@
 #include "dialogs/window/score_list_model.h"
 
+#include "kit/size.h"
+
 namespace {
 struct Header {
     const char *text, *picture;
@@ -58,7 +60,7 @@ QVariant ScoreListModel::headerData(int section, Qt::Orientation orientation, in
         case Qt::AccessibleTextRole:
             return header.spoken;
         case Qt::DecorationRole:
-            return art_.Scaled(header.picture, pictureSize, devicePixelRatio_);
+            return art_.Scaled(header.picture, Sized(pictureSize), devicePixelRatio_);
         case Qt::TextAlignmentRole:
             return leading;
         default:

@@ -2,6 +2,7 @@
 
 #include "core/links.h"
 #include "kit/controls.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 constexpr int titleFont = 21;
@@ -11,7 +12,7 @@ QLabel* AddLabel(QWidget& window, const char* name, const char* text, const Plac
     auto* label = new QLabel(text, &window);
     label->setObjectName(name);
     label->setAlignment(alignment);
-    label->setGeometry(Pixels(place));
+    Put(*label, place);
     return label;
 }
 }  // namespace
@@ -19,7 +20,7 @@ QLabel* AddLabel(QWidget& window, const char* name, const char* text, const Plac
 void AddTitle(QWidget& window, const Place& place, Qt::Alignment alignment) {
     QLabel* title = AddLabel(window, "lblTitle", "L u c k y  C u p", place, alignment | Qt::AlignVCenter);
     title->setAccessibleName("Lucky Cup");
-    title->setFont(TableFont(true, titleFont));
+    SetLetters(*title, TableFont(true), titleFont);
     QPalette ink = title->palette();
     ink.setColor(QPalette::WindowText, titleInk);
     title->setPalette(ink);
@@ -32,7 +33,7 @@ void AddVersion(QWidget& window, const Place& place, Qt::Alignment alignment) {
 Links AddLinks(QWidget& window, Game& game, const Place& place) {
     const Place below{place.left, place.top + place.height, place.width, place.height};
     const auto beside = [](const Place& line) {
-        return Pixels(Place{line.left + line.width, line.top, line.width, line.height});
+        return Place{line.left + line.width, line.top, line.width, line.height};
     };
     AddLabel(window, "Label1", "Web site:", place, Qt::AlignLeft | Qt::AlignVCenter);
     AddLabel(window, "Label2", "E-Mail:", below, Qt::AlignLeft | Qt::AlignVCenter);

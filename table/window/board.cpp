@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 
+#include "kit/sized_widgets.h"
 #include "kit/spoken.h"
 #include "table/row_names.h"
 #include "table/window/tool_tips.h"
@@ -87,8 +88,8 @@ Board::Board(QWidget* table, Art& art, const Events& events)
     : ground_(new Shape(boxGroundPlace.name, table, colour::boxGround)),
       arrowsFour_(new Picture("imgArrow", table, art, "arrows_4")),
       arrowsOne_(new Picture("imgArrow2", table, art, "arrows_1")) {
-    arrowsFour_->setGeometry(Pixels(arrowsFourPlace));
-    arrowsOne_->setGeometry(Pixels(arrowsOnePlace));
+    Put(*arrowsFour_, arrowsFourPlace);
+    Put(*arrowsOne_, arrowsOnePlace);
     arrowsOne_->setToolTip(oneColumnTip);
     Say(*arrowsOne_, SpokenColumnName(ScoreColumn::Rand));
     Say(*arrowsFour_, "Columns");
@@ -98,11 +99,11 @@ Board::Board(QWidget* table, Art& art, const Events& events)
 
 // The strip's four parts, from the top.
 void Board::TellColumns() {
-    const QRect strip = arrowsFour_->rect();
+    constexpr int width = arrowsFourPlace.width, height = arrowsFourPlace.height;
     for (int i = 0; i < 4; ++i) {
         auto* part = new QWidget(arrowsFour_);
         part->setAttribute(Qt::WA_TransparentForMouseEvents);
-        part->setGeometry(0, i * strip.height() / 4, strip.width(), strip.height() / 4);
+        Put(*part, {0, i * height / 4, width, height / 4});
         const ScoreColumn column = allColumns[static_cast<std::size_t>(i)];
         part->setToolTip(columnTips[column]);
         Say(*part, SpokenColumnName(column));
@@ -134,7 +135,7 @@ void Board::MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Event
 
 void Board::LayOut(int columns) {
     const bool four = columns == 4;
-    ground_->setGeometry(Pixels(boxGroundPlace.In(columns)));
+    Put(*ground_, boxGroundPlace.In(columns));
     arrowsFour_->setVisible(four);
     arrowsOne_->setVisible(!four);
     for (ScoreColumn column : allColumns) PlaceColumn(column, columns);
@@ -146,13 +147,13 @@ void Board::PlaceColumn(ScoreColumn column, int columns) {
     const bool used = columns == 4 || column == ScoreColumn::Rand;
     for (int row = 0; row < rowCount; ++row) {
         const int top = boxTops[row];
-        BoxLabel(column, row).setGeometry(Pixels(BoxPlace(column, top, boxLabelHeight, columns)));
+        Put(BoxLabel(column, row), BoxPlace(column, top, boxLabelHeight, columns));
         BoxLabel(column, row).setVisible(used);
-        Button(column, row).setGeometry(Pixels(BoxPlace(column, top, boxButtonHeight, columns)));
+        Put(Button(column, row), BoxPlace(column, top, boxButtonHeight, columns));
     }
     for (TotalRow row : allTotalRows) {
         const int top = totalTops[row];
-        Total(column, row).setGeometry(Pixels(BoxPlace(column, top, boxLabelHeight, columns)));
+        Put(Total(column, row), BoxPlace(column, top, boxLabelHeight, columns));
         Total(column, row).setVisible(used && (columns == 4 || row != TotalRow::ColumnTotal));
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 
+#include "kit/sized_widgets.h"
 #include "kit/spoken.h"
 #include "table/window/tool_tips.h"
 
@@ -93,13 +94,13 @@ void DiceTray::MakeRollButton(Art& art, const Events& events) {
     lamps_->setObjectName("lamps");
     lamps_->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int k = 0; k < lampCount; ++k) {
-        const QRect area = Pixels(Place{lampLefts[k], lampTop, lampSize, lampSize});
+        const Place place{lampLefts[k], lampTop, lampSize, lampSize};
         darkLamps_[k] = new Picture(Index("picRoundBG", k), roll_, art, "lamp_dark");
         litLamps_[k] = new Picture(Index("picRound", k), roll_, art, "lamp_lit");
         darkLamps_[k]->setToolTip(lampsTip);
         litLamps_[k]->setToolTip(lampsTip);
-        darkLamps_[k]->setGeometry(area);
-        litLamps_[k]->setGeometry(area);
+        Put(*darkLamps_[k], place);
+        Put(*litLamps_[k], place);
     }
     SetLamps(0);
     nextPlayer_ = new CaptionButton("cmdNextPlayer", roll_->parentWidget());
@@ -114,19 +115,19 @@ void DiceTray::MakeRollButton(Art& art, const Events& events) {
 }
 
 void DiceTray::LayOut(int columns, int lastDieIndex) {
-    tray_->setGeometry(Pixels(trayPlace.In(columns)));
-    rollFrame_->setGeometry(Pixels(rollFramePlace.In(columns)));
+    Put(*tray_, trayPlace.In(columns));
+    Put(*rollFrame_, rollFramePlace.In(columns));
     const Place roll = rollPlace.In(columns);
-    roll_->setGeometry(Pixels(roll));
-    lamps_->setGeometry(
-        darkLamps_[0]->geometry().united(darkLamps_[lampCount - 1]->geometry()).translated(roll_->pos()));
-    nextPlayer_->setGeometry(Pixels(Within(roll, nextPlayerPlace)));
-    showBoard_->setGeometry(Pixels(Within(roll, showBoardPlace)));
+    Put(*roll_, roll);
+    constexpr int lampsWidth = lampLefts[lampCount - 1] + lampSize - lampLefts[0];
+    Put(*lamps_, Within(roll, {lampLefts[0], lampTop, lampsWidth, lampSize}));
+    Put(*nextPlayer_, Within(roll, nextPlayerPlace));
+    Put(*showBoard_, Within(roll, showBoardPlace));
     for (int i = 0; i < maxDice; ++i) {
-        const QRect area = Pixels(DiePlace(i, columns, lastDieIndex));
-        At(i).free->setGeometry(area);
-        At(i).held->setGeometry(area);
-        At(i).frame->setGeometry(Pixels(DieFramePlace(i, columns, lastDieIndex)));
+        const Place place = DiePlace(i, columns, lastDieIndex);
+        Put(*At(i).free, place);
+        Put(*At(i).held, place);
+        Put(*At(i).frame, DieFramePlace(i, columns, lastDieIndex));
         At(i).frame->setVisible(i <= lastDieIndex);
     }
 }

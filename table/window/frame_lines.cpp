@@ -1,5 +1,7 @@
 #include "table/window/frame_lines.h"
 
+#include "kit/sized_widgets.h"
+
 FrameLines::FrameLines(QWidget* table)
     : rows_(Make(table, rowFrameLines)), boxes_(Make(table, boxFrameLines)), tray_(Make(table, trayFrameLines)) {}
 
@@ -12,12 +14,7 @@ FrameLines::Frame FrameLines::Make(QWidget* table, const std::array<ControlPlace
 }
 
 void FrameLines::PlaceFrame(const Frame& frame, const std::array<ControlPlace, 4>& places, int columns) {
-    for (std::size_t i = 0; i < frame.size(); ++i) {
-        const Place place = places[i].In(columns);
-        const QPoint endPoint = place.width == 0 ? QPoint(0, 1) : QPoint(1, 0);  // belongs to the line
-        const QRect area = Pixels(place);
-        frame[i]->setGeometry(QRect(area.topLeft(), area.bottomRight() + endPoint));
-    }
+    for (std::size_t i = 0; i < frame.size(); ++i) Put(*frame[i], places[i].In(columns));
 }
 
 void FrameLines::SetFrameHeight(int columns) { PlaceFrame(rows_, rowFrameLines, columns); }

@@ -12,6 +12,7 @@
 #include "core/turn.h"
 #include "kit/look.h"
 #include "kit/pointers.h"
+#include "kit/sized_widgets.h"
 #include "kit/spoken.h"
 #include "table/main_window.h"
 #include "table/presses.h"
@@ -67,8 +68,7 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
     setMenuBar(menuBar_);
     setCentralWidget(table_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    table_->setFixedWidth(Pixels(windowWidth));
-    toolBar_->setGeometry(Pixels(Place{0, 0, windowWidth, toolbarHeight}));
+    Put(*toolBar_, {0, 0, windowWidth, toolbarHeight});
 }
 
 void frmLuckyCup::SetMenuStyle(QStyle& style) {
@@ -92,12 +92,11 @@ void frmLuckyCup::SetPointersAndIcon() {
 
 void frmLuckyCup::PlaceOnScreen() {
     // The place is worked out from these, whatever the window's own size is.
-    constexpr int toldWidth = 4900;
-    constexpr int toldHeight = 8100;
+    const QSize frame = Pixels(windowFrame).size();
     const QRect area = screen()->geometry();
-    const int spareWidth = area.width() - Pixels(toldWidth);
-    const int spareHeight = area.height() - Pixels(toldHeight);
-    move(area.left() + spareWidth / 2, area.top() + static_cast<int>(spareHeight / 4.3));
+    const QSize spare = area.size() - frame;
+    const QPoint place = area.topLeft() + QPoint(spare.width() / 2, static_cast<int>(spare.height() / 4.3));
+    move(IntoView({place, frame}, screen()->availableGeometry()));
 }
 
 void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
@@ -193,7 +192,7 @@ void frmLuckyCup::LayOut(int columns, int lastDieIndex) {
     lines_.LayOut(columns);
     board_.LayOut(columns);
     tray_.LayOut(columns, lastDieIndex);
-    score_->setGeometry(Pixels(scorePlace.In(columns)));
+    Put(*score_, scorePlace.In(columns));
 }
 
 // Qt takes a single [*] for its mark of a changed document.
@@ -201,8 +200,8 @@ void frmLuckyCup::SetTitle(std::string_view text) { setWindowTitle(Text(text).re
 
 void frmLuckyCup::SetWindowHeight(int twips) {
     const int inner = twips - frameAndMenuHeight;
-    table_->setFixedHeight(Pixels(inner));
-    statusBar_->setGeometry(Pixels(Place{0, inner - statusBarHeight, windowWidth, statusBarHeight}));
+    FixSize(*table_, windowWidth, inner);
+    Put(*statusBar_, {0, inner - statusBarHeight, windowWidth, statusBarHeight});
     layout()->activate();
 }
 

@@ -5,6 +5,12 @@ constexpr ByDie<int> leftsOfSix{{245, 1150, 2070, 245, 1150, 2070}};
 constexpr ByDie<int> leftsOfFive{{245, 1150, 2070, 697, 1602, 2070}};
 }  // namespace
 
+int SizeAtStart(int wanted, QSize screen) {
+    constexpr QSize inside(windowWidth / 15, (windowFrame.height - frameAndMenuHeight + menuBarHeight) / 15);
+    constexpr QSize widestFrame(10, 38);  // of the desktops of today
+    return FittingSize(IsSize(wanted) ? wanted : toldSize, inside, widestFrame, screen);
+}
+
 Place BoxPlace(ScoreColumn column, int top, int height, int columns) {
     if (columns == 1) return {boardLeft, top, boardWidth, height};
     return {boardLeft + (static_cast<int>(column) - 1) * boxWidth, top, boxWidth, height};

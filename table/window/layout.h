@@ -4,6 +4,7 @@
 
 #include "core/dice_set.h"
 #include "core/scorecard.h"
+#include "kit/size.h"
 #include "kit/twips.h"
 
 // Where the controls of the main window stand, in twips. Every place is worked out from the variant alone and never
@@ -23,10 +24,15 @@ struct ControlPlace {
 };
 
 // The told size of the window is that of its whole frame; these are what the frame and the menu bar take off.
-inline constexpr int windowWidth = 4900 - 90;
+inline constexpr Place windowFrame{0, 0, 4900, 8100};
+inline constexpr int windowWidth = windowFrame.width - 90;
 inline constexpr int frameAndMenuHeight = 690;
+inline constexpr int menuBarHeight = 330;  // of the told font
 inline constexpr int toolbarHeight = 450;
 inline constexpr int statusBarHeight = 270;
+
+// The size of the program at its start: the wanted one, or the largest below it at which the screen holds the table.
+int SizeAtStart(int wanted, QSize screen);
 
 inline constexpr int shiftUp = -250;
 

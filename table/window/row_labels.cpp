@@ -1,5 +1,6 @@
 #include "table/window/row_labels.h"
 
+#include "kit/sized_widgets.h"
 #include "kit/spoken.h"
 #include "table/row_names.h"
 #include "table/window/tool_tips.h"
@@ -21,11 +22,11 @@ Place FramePlace(int boxTop, int height, int left, int width) {
 
 // The label keeps its place and lets its text stand in the middle of the frame.
 void PutIntoFrame(TextLabel& label, Shape& frame, const Place& labelPlace, const Place& framePlace) {
-    label.setGeometry(Pixels(labelPlace));
-    frame.setGeometry(Pixels(framePlace));
+    Put(label, labelPlace);
+    Put(frame, framePlace);
     const int labelMiddle = 2 * labelPlace.top + labelPlace.height;
     const int frameMiddle = 2 * framePlace.top + framePlace.height;
-    label.SetDrop(Pixels((frameMiddle - labelMiddle) / 2));
+    label.SetDrop((frameMiddle - labelMiddle) / 2);
 }
 }  // namespace
 
@@ -39,7 +40,7 @@ void RowLabels::MakeRow(int row) {
     labelFrames_[row] = new Shape(Index("shpOptions", row), panel_, colour::black, colour::rowFrame, colour::rowFrame);
     labels_[row] = new TextLabel(Index("lblOption", row), panel_, labelLook, Qt::AlignLeft);
     labels_[row]->setText(RowName(row));
-    labels_[row]->setContentsMargins(5, 0, 2, 0);
+    labels_[row]->SetMargins(5, 2);
     labels_[row]->setToolTip(rowTips[row]);
     tipFrames_[row] = new Shape(Index("Shape12", row), panel_, colour::black, colour::rowFrame, colour::rowFrame);
     tips_[row] = new TextLabel(Index("lblTip", row), panel_, tipLook, Qt::AlignHCenter);
@@ -54,11 +55,11 @@ void RowLabels::MakeSumRow(std::size_t i) {
     sums_[i] = new TextLabel(sumRows[i].label, panel_, sumLook, Qt::AlignRight);
     sums_[i]->setText(text);
     Say(*sums_[i], text.trimmed());
-    sums_[i]->setContentsMargins(2, 0, text.endsWith(' ') ? 2 : 5, 0);
+    sums_[i]->SetMargins(2, text.endsWith(' ') ? 2 : 5);
     sums_[i]->setToolTip(sumTips[i]);
 }
 
-void RowLabels::SetFrameHeight(int columns) { panel_->setGeometry(Pixels(rowPanelPlace.In(columns))); }
+void RowLabels::SetFrameHeight(int columns) { Put(*panel_, rowPanelPlace.In(columns)); }
 
 void RowLabels::LayOut(int columns) {
     for (std::size_t i = 0; i < sumRows.size(); ++i) {

@@ -3,12 +3,14 @@
 #include <QPainter>
 
 #include "kit/controls.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 #include "kit/spoken.h"
 #include "table/window/layout.h"
 
 namespace {
-constexpr int gap = 2;
-constexpr int inset = 3;
+constexpr int gapAtToldSize = 2;
+constexpr int insetAtToldSize = 3;
 
 // A player's name, which may be as long as the player likes: where it is cut it shows that it is, and tells the whole
 // under a resting mouse.
@@ -42,7 +44,7 @@ StatusBarWidget::StatusBarWidget(QWidget* parent) : QWidget(parent) {
     setObjectName("StatusBar1");
     Say(*this, "Status bar");
     SetRole(*this, QAccessible::StatusBar);
-    setFont(TableFont(false));
+    SetLetters(*this, TableFont(false));
     for (int k = 1; k <= 5; ++k) {
         panels_[k].label = MakePanel(k, this);
         panels_[k].label->setObjectName(QString("StatusBar1_%1").arg(k));
@@ -70,6 +72,7 @@ void StatusBarWidget::SetPanelLayout(int k, int widthInTwips, bool visible) {
 }
 
 void StatusBarWidget::PlacePanels() {
+    const int gap = Sized(gapAtToldSize), inset = Sized(insetAtToldSize);
     int left = 0;
     for (Panel& panel : panels_) {
         panel.label->setVisible(panel.visible);
@@ -87,6 +90,7 @@ void StatusBarWidget::resizeEvent(QResizeEvent*) { PlacePanels(); }
 void StatusBarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), colour::window);
+    const int inset = Sized(insetAtToldSize);
     for (const Panel& panel : panels_) {
         if (!panel.visible) continue;
         PaintEdges(painter, panel.label->geometry().adjusted(-inset, -1, inset, 1), colour::dark, colour::light);

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "kit/controls.h"
+#include "kit/sized_widgets.h"
 
 namespace {
 // The topmost widget with a tool tip that stands at the place, be it one that takes no mouse; null for none.
@@ -26,7 +27,7 @@ const QWidget* ToldAt(const QWidget& parent, QPoint place) {
 TableArea::TableArea(QWidget* window, std::function<void()> afterFirstPicture)
     : QWidget(window), afterFirstPicture_(std::move(afterFirstPicture)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFont(TableFont(true));
+    SetLetters(*this, TableFont(true));
 }
 
 // Labels and pictures take no mouse, so their tool tips are looked up here.

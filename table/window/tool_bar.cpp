@@ -4,17 +4,20 @@
 #include <QStyleOption>
 
 #include "core/new_game.h"
+#include "kit/size.h"
+#include "kit/sized_widgets.h"
 #include "kit/spoken.h"
 #include "table/commands.h"
 #include "table/presses.h"
 #include "table/window/layout.h"
 
 namespace {
-constexpr QSize buttonSize(24, 24);
 constexpr QSize pictureSize(16, 16);
-constexpr int separatorWidth = 9;
-constexpr int leftMargin = 5;
-constexpr int topMargin = 3;
+// Twips.
+constexpr int buttonSize = 360;
+constexpr int separatorWidth = 135;
+constexpr int leftMargin = 75;
+constexpr int topMargin = 45;
 
 constexpr int undoButton = 3, redoButton = 4, hintButton = 6, soundButton = 8, musicButton = 9;
 
@@ -66,8 +69,9 @@ protected:
         if (hot && isDown()) PaintEdges(painter, rect(), colour::dark, colour::light);
         if (hot && !isDown()) PaintEdges(painter, rect(), colour::light, colour::dark);
         const QString look = !isEnabled() ? "_disabled" : hot ? "_hot" : "";
-        const QPoint corner((width() - pictureSize.width()) / 2, (height() - pictureSize.height()) / 2);
-        art_.Draw(painter, QRect(isDown() ? corner + QPoint(1, 1) : corner, pictureSize), picture_ + look);
+        const QSize size = Sized(pictureSize);
+        const QPoint corner((width() - size.width()) / 2, (height() - size.height()) / 2);
+        art_.Draw(painter, QRect(isDown() ? corner + QPoint(1, 1) : corner, size), picture_ + look);
     }
 
 private:
@@ -88,8 +92,8 @@ ToolBar::ToolBar(QWidget* parent, Art& art, const CommandRunner& runner) : QWidg
             continue;
         }
         buttons_[i] = new ToolKey(this, art, keys[i]);
-        buttons_[i]->setGeometry(QRect(QPoint(left, topMargin), buttonSize));
-        left += buttonSize.width();
+        Put(*buttons_[i], {left, topMargin, buttonSize, buttonSize});
+        left += buttonSize;
         connect(buttons_[i], &QAbstractButton::clicked, this, [runner, command] {
             if (command)
                 runner.run(command);
@@ -120,8 +124,10 @@ void ToolBar::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(QStyle::PE_PanelToolBar, &ground, &painter, this);
     for (int i = 2; i <= keyCount; ++i) {
         if (buttons_[i]) continue;
-        const int x = buttons_[i - 1]->geometry().right() + 1 + separatorWidth / 2;
-        painter.fillRect(x, topMargin + 2, 1, buttonSize.height() - 4, colour::dark);
-        painter.fillRect(x + 1, topMargin + 2, 1, buttonSize.height() - 4, colour::light);
+        const QRect before = buttons_[i - 1]->geometry();
+        const int x = before.right() + 1 + Pixels(separatorWidth) / 2, inset = Sized(2);
+        const QRect line(x, before.top() + inset, std::max(1, Sized(1)), before.height() - 2 * inset);
+        painter.fillRect(line, colour::dark);
+        painter.fillRect(line.translated(line.width(), 0), colour::light);
     }
 }

@@ -1,0 +1,27 @@
+#include "kit/size.h"
+
+#include <QtMath>
+
+namespace {
+int current = toldSize;
+}
+
+int Size() { return current; }
+void SetSize(int percent) { current = IsSize(percent) ? percent : toldSize; }
+
+bool IsSize(int percent) {
+    return percent >= smallestSize && percent <= largestSize && (percent - smallestSize) % sizeStep == 0;
+}
+
+qreal Sized(qreal pixels) { return pixels * current / toldSize; }
+int Sized(int pixels) { return qRound(Sized(qreal(pixels))); }
+QSize Sized(QSize pixels) { return {Sized(pixels.width()), Sized(pixels.height())}; }
+int SizedDown(int pixels) { return qFloor(Sized(qreal(pixels))); }
+
+int FittingSize(int wanted, QSize inside, QSize frame, QSize area) {
+    const QSize room = (area - frame) * toldSize;
+    int size = wanted;
+    while (size > smallestSize && (inside.width() * size > room.width() || inside.height() * size > room.height()))
+        size -= sizeStep;
+    return size;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QProxyStyle>
+
+// The style of the windows, with check marks, margins, scroll bars and the like as large as the program is.
+class SizedStyle final : public QProxyStyle {
+public:
+    SizedStyle() : QProxyStyle("Fusion") {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+};

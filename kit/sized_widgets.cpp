@@ -1,0 +1,86 @@
+#include "kit/sized_widgets.h"
+
+#include <QApplication>
+#include <QLayout>
+#include <QScreen>
+#include <QVariant>
+#include <algorithm>
+
+#include "kit/look.h"
+#include "kit/size.h"
+
+namespace {
+// In twips, and for letters in pixels of the told size.
+constexpr const char* placeKey = "place";
+constexpr const char* fixedKey = "fixedSize";
+constexpr const char* lettersKey = "letters";
+
+QRect Area(const QRect& twips) {
+    QRect area = Pixels(Place{twips.x(), twips.y(), twips.width(), twips.height()});
+    if (twips.width() == 0) area.setBottom(area.bottom() + 1);
+    if (twips.height() == 0) area.setRight(area.right() + 1);
+    return area;
+}
+
+void Keep(QWidget& widget) {
+    const QVariant place = widget.property(placeKey), fixed = widget.property(fixedKey);
+    if (place.isValid()) widget.setGeometry(Area(place.toRect()));
+    if (fixed.isValid()) widget.setFixedSize(Pixels(fixed.toSize().width()), Pixels(fixed.toSize().height()));
+}
+
+void KeepLetters(QWidget& widget) {
+    const QVariant letters = widget.property(lettersKey);
+    if (!letters.isValid()) return;
+    QFont font = widget.font();
+    font.setPixelSize(SizedDown(letters.toInt()));
+    widget.setFont(font);
+}
+
+void TellStyleChange(QWidget& widget) {
+    QEvent change(QEvent::StyleChange);
+    QApplication::sendEvent(&widget, &change);
+}
+}  // namespace
+
+void Put(QWidget& widget, const Place& place) {
+    widget.setProperty(placeKey, QRect(place.left, place.top, place.width, place.height));
+    Keep(widget);
+}
+
+void FixSize(QWidget& widget, int width, int height) {
+    widget.setProperty(fixedKey, QSize(width, height));
+    Keep(widget);
+}
+
+void SetLetters(QWidget& widget, QFont font, int pixels) {
+    widget.setProperty(lettersKey, pixels);
+    font.setPixelSize(SizedDown(pixels));
+    widget.setFont(font);
+}
+
+void ChangeSize(int percent) {
+    SetSize(percent);
+    ApplyFonts();
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) KeepLetters(*widget);
+    for (QWidget* widget : widgets) Keep(*widget);
+    for (QWidget* widget : widgets)
+        if (!widget->isWindow()) TellStyleChange(*widget);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        TellStyleChange(*window);
+        if (window->layout()) window->layout()->activate();
+        if (window->isVisible() && window->windowType() != Qt::Popup) BringIntoView(*window);
+    }
+}
+
+QPoint IntoView(const QRect& frame, const QRect& screen) {
+    const int right = screen.left() + screen.width() - frame.width();
+    const int bottom = screen.top() + screen.height() - frame.height();
+    return {std::max(screen.left(), std::min(frame.left(), right)),
+            std::max(screen.top(), std::min(frame.top(), bottom))};
+}
+
+void BringIntoView(QWidget& window) {
+    const QPoint place = IntoView(window.frameGeometry(), window.screen()->availableGeometry());
+    if (place != window.pos()) window.move(place);
+}
