@@ -20,20 +20,13 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
         EXPECT_EQ(ticks, 0);
     });
     QTest::qWait(40);
-    EXPECT_EQ(ticks, 1);
-    gate.Run([&] {
-        timers.Start(Timer::tmrCounter, 1);
-        const EventGate::Open modal(gate);
-        QTest::qWait(40);
-        EXPECT_EQ(ticks, 2);
-    });
     gate.Run([&] {
         timers.Start(Timer::tmrCounter, 1);
         QTest::qWait(40);
         timers.Stop(Timer::tmrCounter);
     });
     QTest::qWait(40);
-    EXPECT_EQ(ticks, 2);
+    EXPECT_EQ(ticks, 1);
 }
 
 TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
@@ -44,20 +37,11 @@ TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
         QTest::qWait(5);
         ran += "0 ";
     });
-    EXPECT_EQ(ran, "0 ");
-    QTest::qWait(5);
     EXPECT_THROW(gate.Run([&] {
         gate.Run([&] { ran += "later "; });
         throw std::runtime_error("a handler failed");
     }),
                  std::runtime_error);
-    EXPECT_FALSE(gate.Busy());
-    EXPECT_THROW(gate.Run([&] {
-        const EventGate::Open modal(gate);
-        throw std::runtime_error("a dialog failed");
-    }),
-                 std::runtime_error);
-    EXPECT_FALSE(gate.Busy());
     gate.Run([&] { ran += "next "; });
     QTest::qWait(1);
     EXPECT_EQ(ran, "0 1 2 later next ");

@@ -1,5 +1,3 @@
-#include <QAbstractButton>
-
 #include "tests/window_table.h"
 
 namespace {
@@ -28,29 +26,6 @@ TEST(Roll, IsPressedAndReleasedOnTheButton) {
     EXPECT_EQ(t.game.session.RollCount, 0);
     release(roll);
     EXPECT_EQ(t.game.session.RollCount, 1);
-    press();
-    t.answer = [&](QWidget& modal) {  // cuts the press off
-        EXPECT_EQ(t.game.table.roll.picture, RollPicture::Up);
-        release(roll);
-        EXPECT_EQ(t.game.session.RollCount, 1);
-        modal.close();
-    };
-    t.Key(Qt::CTRL | Qt::Key_O);
-    release(roll);
-    EXPECT_EQ(t.game.session.RollCount, 1);
-    t.Click("picRollDices");
-    EXPECT_EQ(t.game.session.RollCount, 2);
-}
-
-TEST(Hover, GoesOutWithTheGame) {
-    WindowTable t(VariantOf(5));
-    t.Click("picRollDices");
-    t.MoveOnto("cmdRand", 6);
-    EXPECT_TRUE(t.game.table.highlighted[6]);
-    EXPECT_EQ(dynamic_cast<BoxButton&>(t.At("cmdRand", 6)).ShownLooks().plain, "row_hot_6");
-    t.Key(Qt::Key_F2);
-    QTest::qWait(5);
-    EXPECT_FALSE(t.game.table.highlighted[6]);
 }
 
 using T = WindowTable&;
@@ -79,13 +54,6 @@ TEST(Commands, AreReachedByMenuShortcutAndToolbar) {
             const bool taken = way == 0 || (way == 1 ? *toolKey != '\0' : !shortcut.isEmpty());
             EXPECT_EQ(done(t), taken) << entry << " by way " << way;
         }
-}
-
-TEST(Pairs, TheCheckedLineDoesNothing) {
-    WindowTable t;
-    const GameSettings before = t.game.settings;
-    for (const char* entry : {"mnuHintsAllways", "mnuSoundsOn", "mnuMusicOff"}) t.ClickEntry(entry);
-    EXPECT_EQ(t.game.settings, before);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -26,6 +27,11 @@ inline int Rounds(int shortRun) {
 // In memory where there is such a folder: flushing thousands of files to a busy disk takes its time.
 inline QString FolderTemplate() {
     return (QFileInfo("/dev/shm").isWritable() ? "/dev/shm" : QDir::tempPath()) + "/luckycup-hard-XXXXXX";
+}
+
+inline QByteArray Bytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
 // How much room a full disk may have left, 0 to most bytes: as many cases as are wanted, and always the last two.
