@@ -5,36 +5,6 @@
 
 namespace {
 
-// Fills the board but for its last box, and that one after one roll.
-void FillToTheLastBox(WindowTable& t) {
-    for (int row = 0; row < rowCount; ++row) {
-        t.Key(Qt::Key_Return);
-        t.Click("cmdRand", row);
-    }
-}
-
-TEST(EndGame, HasNoWayOutButItsButtons) {
-    WindowTable t(VariantOf(5));
-    int shown = 0;
-    t.answer = [&](QWidget& modal) {
-        QTest::keyClick(&modal, Qt::Key_Escape);
-        if (modal.objectName() == "frmScores2") return;
-        EXPECT_FALSE(modal.close());
-        ASSERT_TRUE(modal.isVisible());
-        EXPECT_FALSE(modal.windowFlags() & Qt::WindowCloseButtonHint);
-        EXPECT_EQ(modal.size(), QSize(245, 68));
-        EXPECT_NEAR(modal.geometry().center().y() - t.window.geometry().center().y(), Pixels(2200), 2);
-        EXPECT_TRUE(t.game.session.EndGameSeen);
-        QTest::keyClick(&modal, ++shown == 1 ? Qt::Key_U : Qt::Key_F, Qt::AltModifier);
-    };
-    FillToTheLastBox(t);
-    EXPECT_EQ(t.game.session.BoxesFilled, 12);
-    EXPECT_FALSE(t.game.session.EndGameFinish);
-    t.Click("cmdRand", rowLuckyCup);
-    EXPECT_EQ(shown, 2);
-    EXPECT_TRUE(t.game.session.EndGameFinish && t.game.session.GameOverShown);
-}
-
 TEST(TheWinerIs, NamesTheWinner) {
     WindowTable t(VariantOf(7));
     t.game.settings.Player1 = "A  ";

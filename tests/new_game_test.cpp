@@ -54,13 +54,4 @@ TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
     }
 }
 
-TEST(NewGame, AfterTheEndAsksNothing) {
-    PlayedTable over({.NumberOfPlayers = 2, .NumberOfColumns = 1, .SoundEnabled = false, .BGMusicEnabled = true});
-    over.PlayGame(1, [](const std::string&) {});
-    over.Do("tick tmrGameOver 3;new");
-    EXPECT_EQ(Shortened(over.table.log), "media close song, media close Intro");
-    EXPECT_FALSE(over.game.table.timers[Timer::tmrGameOver].enabled || over.game.table.timers[Timer::Timer4].enabled);
-    EXPECT_TRUE(over.game.table.timers[Timer::Timer3].enabled);
-}
-
 }  // namespace

@@ -62,18 +62,6 @@ TEST(Script, EndsAtABadLineAndTellsItsNumber) {
     expectError("answer cancel finish\nstart\nquit\nstate\nquit", "line 5: bad argument", 3);
 }
 
-TEST(Script, ReadsToTheEnd) {
-    const Played played(
-        "set  AppPath\t nowhere\r\nset Player1   Ann  Lee  \nseed 18446744073709551615\r\n\n #\nstart\n"
-        "set Today  5.6.\n  key   space \r\nanswer cancel\nquit\nquit");
-    EXPECT_EQ(played.status, 0) << played.error;
-    ASSERT_EQ(played.lines.size(), 4U);
-    EXPECT_TRUE(played.lines[1].starts_with(R"({"event":"key   space","ignored":false,"log":["minimize"],)"));
-    EXPECT_TRUE(played.lines[2].starts_with(
-        R"({"event":"quit","ignored":false,"log":["message Confirm|Exit Lucky Cup?|question|cancel"],)"));
-    EXPECT_TRUE(played.LastHas(R"(|ok","save","media close song"],)") && played.LastHas(R"("Player1":"Ann  Lee")"));
-}
-
 TEST(Script, TellsWhatItCannotWriteOrRead) {
     struct Full : std::streambuf {
     } full;
