@@ -26,6 +26,18 @@ TEST(Roll, IsPressedAndReleasedOnTheButton) {
     EXPECT_EQ(t.game.session.RollCount, 0);
     release(roll);
     EXPECT_EQ(t.game.session.RollCount, 1);
+    press();
+    t.answer = [&](QWidget& modal) {  // cuts the press off
+        EXPECT_EQ(t.game.table.roll.picture, RollPicture::Up);
+        release(roll);
+        EXPECT_EQ(t.game.session.RollCount, 1);
+        modal.close();
+    };
+    t.Key(Qt::CTRL | Qt::Key_O);
+    release(roll);
+    EXPECT_EQ(t.game.session.RollCount, 1);
+    t.Click("picRollDices");
+    EXPECT_EQ(t.game.session.RollCount, 2);
 }
 
 using T = WindowTable&;
