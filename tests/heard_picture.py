@@ -63,8 +63,9 @@ def draw(game, path):
         y = MARGIN + line * pitch + LABELS
         # On the lowest of three levels that is free.
         level = next((level for level in range(3) if ends.get((line, level), 0) < x), 2)
-        ends[line, level] = x + pen.textlength(text, font) + 10
+        length = pen.textlength(text, font)
+        ends[line, level] = x + length + 10
         top = y - 16 * (level + 1)
         pen.line([(x, top + 2), (x, y + WAVE)], colour)
-        pen.text((x + 3, top), text, colour, font)
+        pen.text((min(x + 3, MARGIN + WIDTH - length), top), text, colour, font)
     page.quantize(64).save(path, optimize=True)
