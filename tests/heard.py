@@ -370,4 +370,5 @@ def main():
             sys.exit(f"heard: {error}")
 
 
-main()
+if __name__ == "__main__":
+    main()
