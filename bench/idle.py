@@ -32,11 +32,11 @@ def ratio(a, b):
 
 
 def main():
-    options = arguments(__doc__, seconds=(30, "length of the measurement"))
+    options = arguments(__doc__, seconds=(30, "length of the measurement"), music=(0, "1: the music plays meanwhile"))
     os.environ["SDL_AUDIODRIVER"] = "dummy"  # sounds like a card, where there is none too
     with Screen() as game_screen, Screen() as empty_screen:
         place = game_place(game_screen)
-        game, _ = start_until_painted(game_screen, place, [GAME])
+        game, _ = start_until_painted(game_screen, place, [GAME], "BGMusicEnabled=True\n" if options.music else "")
         empty, _ = start_until_painted(empty_screen, place, [EMPTY, *place])
         game_screen.press(game_screen.find_window(GAME_TITLE), "Return")
         time.sleep(SETTLING)

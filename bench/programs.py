@@ -53,9 +53,9 @@ def is_painted(screen, place):
     return painted > LOOKS // 2
 
 
-def start_until_painted(screen, place, command):
+def start_until_painted(screen, place, command, settings=""):
     """Starts the program on the black screen; returns it with the seconds that passed until its first picture."""
-    home = screen.new_home(TABLE_FIRST)
+    home = screen.new_home(TABLE_FIRST + settings)
     begin = time.perf_counter()
     process = screen.start(*command, home=home)
 
