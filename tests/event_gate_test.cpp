@@ -47,4 +47,20 @@ TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
     EXPECT_EQ(ran, "0 1 2 later next ");
 }
 
+TEST(Gate, IsOpenBehindAModalWindowThatStandsInsideAHandler) {
+    EventGate gate;
+    std::string ran;
+    gate.Run([&] {
+        gate.Run([&] { ran += "waited "; });
+        {
+            const EventGate::Open open(gate);
+            gate.Run([&] { ran += "behind "; });
+        }
+        gate.Run([&] { ran += "after "; });
+        ran += "end ";
+    });
+    QTest::qWait(5);
+    EXPECT_EQ(ran, "waited behind end after ");
+}
+
 }  // namespace

@@ -161,14 +161,18 @@ TEST(Program, LeavesByAnAnswerOnlyAndThenForGood) {
     EXPECT_FALSE(letIn);
 }
 
-TEST(Program, RecordsAGameInItsFolder) {
-    RunningProgram running({.NumberOfDice = 4, .NumberOfColumns = 1, .Player1 = "Ann"});
-    running.game.session.Total = 1234;
-    running.program.gate.Run([&] { GameOver(running.game); });
-    QFile written(running.folder.filePath("scores/scores4.dat"));
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    const QByteArray first = written.readAll().first(100);
-    EXPECT_TRUE(first.contains("Ann") && first.contains("\xD2\x04"));
+TEST(Program, RecordsEachTypeOfGameInAFileOfItsOwn) {
+    for (int number = 1; number <= 4; ++number) {
+        RunningProgram running(
+            {.NumberOfDice = number % 2 ? 5 : 4, .NumberOfColumns = number < 3 ? 4 : 1, .Player1 = "Ann"});
+        running.game.session.Total = 1234;
+        running.program.gate.Run([&] { GameOver(running.game); });
+        const QDir scores(running.folder.filePath("scores"));
+        EXPECT_EQ(scores.entryList(QDir::Files), QStringList(QString("scores%1.dat").arg(number)));
+        QFile written(scores.filePath(QString("scores%1.dat").arg(number)));
+        ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(written.read(24).startsWith(QByteArray("Ann       \xD2\x04\0\0", 14)));
+    }
 }
 
 }  // namespace
