@@ -87,7 +87,7 @@ struct Recording {
     void ExpectTone(int hz, int least, int most, double level = 1) const {
         const QByteArray bytes = Read(Path("heard"));
         std::vector<double> levels;
-        for (int at = 0; (at + window) * 4 <= bytes.size(); at += window) {
+        for (qsizetype at = 0; (at + window) * 4 <= bytes.size(); at += window) {
             double re = 0, im = 0;
             for (int i = 0; i < window; ++i) {
                 std::int16_t sample = 0;
@@ -124,8 +124,8 @@ struct Sound : Recording {
 
 TEST(Player, PiecesSoundBesideEachOtherAndTheLastEffect) {
     Sound s;
-    s.AddEffect("long", 500, 6000);
-    s.AddEffect("longer", 2000, 6000);
+    s.AddEffect("long", 500, 20000);
+    s.AddEffect("longer", 2000, 20000);
     s.AddMusic("one.mp3", Tone(1000, 3000));
     s.AddMusic("two.mp3", Tone(3000, 4000));
     for (const char* command : {"status song position", "play song", "setaudio song Volume to 0", "play", ""})
@@ -144,8 +144,8 @@ TEST(Player, PiecesSoundBesideEachOtherAndTheLastEffect) {
     s.player->PlayEffect("missing");  // silence takes its place
     EXPECT_TRUE(s.Reaches("myMP3", s.Status("myMP3 length")) && s.Reaches("song", s.Status("song length")));
     s.player.reset();
-    s.ExpectTone(500, 200, 2500);
-    s.ExpectTone(2000, 200, 2500);
+    s.ExpectTone(500, 200, 15000);
+    s.ExpectTone(2000, 200, 15000);
     s.ExpectTone(1000, 2940, 3060);  // no volume was sent to it
     s.ExpectTone(3000, 3940, 4060, 0.5);
 }
