@@ -30,7 +30,7 @@ QUIET = 0.3  # of the full volume: songs beside which the dice stand out
 BOXES = 13
 HEADS = {"counter7": 0.09}  # seconds; the least of it that is heard, with two points to count
 ROLL = 0.54  # seconds that the nine frames of a roll last, by the clock and not by the device
-LAG = 0.3  # seconds that a busy machine may add
+LAG = 0.4  # seconds that a busy machine may add
 
 
 def expect(good, what):
@@ -126,9 +126,9 @@ class Sounds:
 
 
 class Game:
-    """The program, started in a folder of its own, perhaps with other songs; a hand on its keys, an ear at its sound."""
+    """The program in a folder of its own, perhaps with other songs; a hand on its keys and an ear at its sound."""
 
-    def __init__(self, program, stack, settings="", songs=None, window_manager=False):
+    def __init__(self, program, stack, settings, songs=None, window_manager=False):
         folder = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory(prefix="lucky-cup-")))
         self.recording = Recording(folder / "heard")
         self.heard = []  # names and frames, in order
@@ -136,7 +136,7 @@ class Game:
         self.screen = stack.enter_context(Screen())
         self._errors = stack.enter_context(tempfile.TemporaryFile())
         if window_manager:
-            self.screen.start("openbox", "--config-file", "/dev/null", stderr=subprocess.DEVNULL)  # who minimises windows
+            self.screen.start("openbox", "--config-file", "/dev/null", stderr=subprocess.DEVNULL)
             wait_for("the window manager", lambda: int(self.screen.xdotool("get_num_desktops") or 0))
         own = folder / "game"
         (own / "scores").mkdir(parents=True)
@@ -239,8 +239,8 @@ def end(game):
     expect(abs(pause - 2) < LAG, f"the intro came {pause} s after the end of the game")
     new = game.hear("newGame", game.press("F2"))
     game.hear("SONG02", new, QUIET)
-    time.sleep(0.5)
-    expect(not game.sounds.place("Intro", game.recording.since(len(game.recording) - frames(0.4))), "the intro sounds on")
+    game.wait(new + frames(1))
+    expect(not game.sounds.place("Intro", game.recording.since(new)[frames(0.6):frames(1)]), "the intro sounds on")
 
 
 def whole_game(program, stack, pause=0.6):
@@ -257,8 +257,8 @@ def make_songs(folder):
     """Noise, every moment of which is unlike the others. The third one lasts."""
     for seed, (name, seconds) in enumerate({"First": 2, "Second": 2, "Third": 20}.items()):
         noise = np.random.default_rng(seed).normal(0, 3000, frames(seconds)).clip(-9000, 9000).astype("<i2")
-        subprocess.run(["lame", "--quiet", "-r", "-s", str(RATE / 1000), "-m", "m", "-b", "320", "-", folder / f"{name}.mp3"],
-                       input=noise.tobytes(), stderr=subprocess.DEVNULL, check=True)
+        lame = ["lame", "--quiet", "-r", "-s", str(RATE / 1000), "-m", "m", "-b", "320", "-", folder / f"{name}.mp3"]
+        subprocess.run(lame, input=noise.tobytes(), stderr=subprocess.DEVNULL, check=True)
     (folder / "SONG01.mp3").symlink_to("First.mp3")
     (folder / "SONG02.mp3").symlink_to("Second.mp3")
 
