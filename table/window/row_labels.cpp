@@ -30,7 +30,7 @@ void PutIntoFrame(TextLabel& label, Shape& frame, const Place& labelPlace, const
 }
 }  // namespace
 
-RowLabels::RowLabels(QWidget* table) : panel_(new Shape(rowPanelPlace.name, table, colour::rowPanel)) {
+RowLabels::RowLabels(QWidget* table) : panel_(new Well(rowPanelPlace.name, table, colour::rowPanel)) {
     Say(*panel_, "Rows");
     for (int row = 0; row < rowCount; ++row) MakeRow(row);
     for (std::size_t i = 0; i < sumRows.size(); ++i) MakeSumRow(i);
