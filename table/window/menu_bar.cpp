@@ -127,8 +127,8 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
             [this] { setActiveAction(actions().front()); });
 }
 
-// A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table. An open menu hands on
-// the keys that it does not know.
+// A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table. An open menu hands
+// on the keys that it does not know.
 void MenuBar::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F10)
         setActiveAction(nullptr);
