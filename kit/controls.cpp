@@ -177,7 +177,7 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
-    const qreal radius = Sized(6.0);
+    const qreal radius = Sized(4.5);  // covers the corners of the Roll button
     const qreal edge = Sized(2.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
