@@ -18,8 +18,9 @@ int Sized(int pixels) { return qRound(Sized(qreal(pixels))); }
 QSize Sized(QSize pixels) { return {Sized(pixels.width()), Sized(pixels.height())}; }
 int SizedDown(int pixels) { return qFloor(Sized(qreal(pixels))); }
 
-int FittingSize(int wanted, QSize inside, QSize frame, QSize area) {
-    const QSize room = (area - frame) * toldSize;
+int FittingSize(int wanted, QSize inside, QSize area) {
+    constexpr QSize widestFrame(10, 38);  // of the desktops of today
+    const QSize room = (area - widestFrame) * toldSize;
     int size = wanted;
     while (size > smallestSize && (inside.width() * size > room.width() || inside.height() * size > room.height()))
         size -= sizeStep;

@@ -11,6 +11,18 @@ void SetSize(int percent);  // one of the steps; any other is taken for toldSize
 
 bool IsSize(int percent);
 
+// While it lives, the size is that of a window which has one of its own.
+class SizeWithin {
+public:
+    explicit SizeWithin(int percent) : before_(Size()) { SetSize(percent); }
+    ~SizeWithin() { SetSize(before_); }
+    SizeWithin(const SizeWithin&) = delete;
+    SizeWithin& operator=(const SizeWithin&) = delete;
+
+private:
+    int before_;
+};
+
 // So many pixels of the told size at the size that is now.
 int Sized(int pixels);
 qreal Sized(qreal pixels);
@@ -19,5 +31,5 @@ QSize Sized(QSize pixels);
 int SizedDown(int pixels);
 
 // The largest step up to the wanted one at which the inside of a window, which has so many pixels at the told size,
-// fits an area with the frame around it, which does not grow. The smallest step when none does.
-int FittingSize(int wanted, QSize inside, QSize frame, QSize area);
+// fits an area with the frame of a desktop around it, which does not grow. The smallest step when none does.
+int FittingSize(int wanted, QSize inside, QSize area);

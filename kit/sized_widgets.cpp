@@ -14,6 +14,7 @@ namespace {
 constexpr const char* placeKey = "place";
 constexpr const char* fixedKey = "fixedSize";
 constexpr const char* lettersKey = "letters";
+constexpr const char* sizeKey = "size";  // of a window, in per cent
 
 QRect Area(const QRect& twips) {
     QRect area = Pixels(Place{twips.x(), twips.y(), twips.width(), twips.height()});
@@ -22,7 +23,16 @@ QRect Area(const QRect& twips) {
     return area;
 }
 
+void FitToScreen(QWidget& widget) {
+    const QVariant fixed = widget.property(fixedKey);
+    if (!widget.isWindow() || !fixed.isValid()) return;
+    constexpr int twipsPerPixel = 15;
+    const QSize inside = fixed.toSize() / twipsPerPixel;
+    widget.setProperty(sizeKey, FittingSize(Size(), inside, widget.screen()->availableSize()));
+}
+
 void Keep(QWidget& widget) {
+    const SizeWithin window(SizeIn(widget));
     const QVariant place = widget.property(placeKey), fixed = widget.property(fixedKey);
     if (place.isValid()) widget.setGeometry(Area(place.toRect()));
     if (fixed.isValid()) widget.setFixedSize(Pixels(fixed.toSize().width()), Pixels(fixed.toSize().height()));
@@ -31,6 +41,7 @@ void Keep(QWidget& widget) {
 void KeepLetters(QWidget& widget) {
     const QVariant letters = widget.property(lettersKey);
     if (!letters.isValid()) return;
+    const SizeWithin window(SizeIn(widget));
     QFont font = widget.font();
     font.setPixelSize(SizedDown(letters.toInt()));
     widget.setFont(font);
@@ -49,19 +60,26 @@ void Put(QWidget& widget, const Place& place) {
 
 void FixSize(QWidget& widget, int width, int height) {
     widget.setProperty(fixedKey, QSize(width, height));
+    FitToScreen(widget);
     Keep(widget);
 }
 
 void SetLetters(QWidget& widget, QFont font, int pixels) {
     widget.setProperty(lettersKey, pixels);
-    font.setPixelSize(SizedDown(pixels));
     widget.setFont(font);
+    KeepLetters(widget);
+}
+
+int SizeIn(const QWidget& widget) {
+    const QVariant own = widget.window()->property(sizeKey);
+    return own.isValid() ? own.toInt() : Size();
 }
 
 void ChangeSize(int percent) {
     SetSize(percent);
     ApplyFonts();
     const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) FitToScreen(*widget);
     for (QWidget* widget : widgets) KeepLetters(*widget);
     for (QWidget* widget : widgets) Keep(*widget);
     for (QWidget* widget : widgets)

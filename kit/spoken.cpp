@@ -8,6 +8,7 @@
 namespace {
 constexpr const char* checkedProperty = "spokenChecked";
 constexpr const char* roleProperty = "spokenRole";
+constexpr const char* focusProperty = "spokenFocus";  // of a window: the control that a screen reader was led to
 
 QVariant Checked(const QObject& control) { return control.property(checkedProperty); }
 
@@ -25,6 +26,8 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         if (IsDecoration()) state.invisible = true;
+        if (widget()->window()->property(focusProperty).value<QWidget*>() == widget())
+            state.focusable = state.focused = true;
         return state;
     }
 
@@ -54,8 +57,6 @@ public:
         QAccessible::State state = SpokenWidget::state();
         state.checkable = Checked(*widget()).isValid();
         state.checked = Checked(*widget()).toBool();
-        const auto* picture = dynamic_cast<const PictureButton*>(widget());
-        if (picture && picture->Marked()) state.focusable = state.focused = true;
         return state;
     }
 
@@ -107,6 +108,7 @@ void SayChecked(QWidget& control, bool checked) {
 }
 
 void SayFocus(QWidget& control) {
+    control.window()->setProperty(focusProperty, QVariant::fromValue(&control));
     if (!QAccessible::isActive()) return;
     QAccessibleEvent event(&control, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);

@@ -9,6 +9,7 @@
 #include "dialogs/window/printing.h"
 #include "kit/controls.h"
 #include "kit/size.h"
+#include "kit/sized_widgets.h"
 
 // The guide lies in a static library, which the linker would take without it.
 static void TakeGuide() { Q_INIT_RESOURCE(guide); }
@@ -63,6 +64,7 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
 }
 
 void frmQuickStart::ShowGuide() {
+    const SizeWithin window(SizeIn(*this));
     auto* guide = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, TableFont(false, textFont), onGround,
                                   Guide("smile"), RichTextBox1_);
     constexpr int margin = 14;

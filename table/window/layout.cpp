@@ -7,8 +7,7 @@ constexpr ByDie<int> leftsOfFive{{245, 1150, 2070, 697, 1602, 2070}};
 
 int SizeAtStart(int wanted, QSize screen) {
     constexpr QSize inside(windowWidth / 15, (windowFrame.height - frameAndMenuHeight + menuBarHeight) / 15);
-    constexpr QSize widestFrame(10, 38);  // of the desktops of today
-    return FittingSize(IsSize(wanted) ? wanted : toldSize, inside, widestFrame, screen);
+    return FittingSize(IsSize(wanted) ? wanted : toldSize, inside, screen);
 }
 
 Place BoxPlace(ScoreColumn column, int top, int height, int columns) {
