@@ -81,12 +81,13 @@ class Reader:
             return answer()
         return wait_for(what, ask, pause=0.02)
 
-    def wait_to_hear(self, name):
+    def wait_to_hear(self, *names):
+        """Since the last press."""
         def ask():
             while GLib.MainContext.default().iteration(False):
                 pass
-            return any(re.fullmatch(name, heard) for heard in self.heard)
-        self.wait(f"word of {name}", ask)
+            return all(any(re.fullmatch(name, heard) for heard in self.heard) for name in names)
+        self.wait(f"word of {names}", ask)
 
     def press(self, title, name):
         control = self.wait(f"{name} in {title}", lambda: self.shows(title, name))
@@ -101,10 +102,11 @@ def score(name):
     return int((re.search(r"would score (-?\d+)", name) or [0, 0])[1])
 
 
-def turn(reader, begin, boxes):
-    """Writes the box that scores most, after a second roll in which the sixes were held."""
+def turn(reader, begin, announced, boxes):
+    """Writes the box that scores most, after a second roll in which the sixes were held. announced: what else is told
+    of the first roll."""
     reader.press(TABLE, begin)
-    reader.wait_to_hear("Roll 1 of 3")
+    reader.wait_to_hear("Die . shows ., free", "Roll 1 of 3", "focus: Roll 1 of 3", *announced)
     names = reader.names(OPEN)
     if boxes and len(names) != boxes:
         raise RuntimeError(f"{len(names)} boxes are open instead of {boxes}")
@@ -121,6 +123,14 @@ def turn(reader, begin, boxes):
     reader.wait_to_hear(re.escape(re.sub(", (open|announced).*", "", best)) + r": -?\d+")
 
 
+def hear_the_count(reader):
+    """Its text changes once, when it ends."""
+    reader.wait_to_hear(r"Grand Total: -?\d+")
+    counts = [name for name in reader.heard if name.startswith("Grand Total")]
+    if len(counts) != 1 or not reader.shows(TABLE, re.escape(counts[0])):
+        raise RuntimeError(f"the counter told {counts}")
+
+
 def finish(reader):
     """Goes through the windows at the end of one player's game, up to the winner's or back to the table."""
     reader.press(FINISH, "Finish Game")
@@ -134,10 +144,16 @@ def finish(reader):
 
 def play(reader, columns=1, players=1):
     reader.press("Welcome to LuckyCup.*", "Play")
-    for left in range(columns * ROWS, 0, -1):
-        for player in range(players):
-            first = player == 0 and left == columns * ROWS
-            turn(reader, ROLL if players == 1 or first else NEXT, boxes=left if columns == 1 else 0)
+    rounds = columns * ROWS
+    for left in range(rounds, 0, -1):
+        for player in range(1, players + 1):
+            first = left == rounds
+            announced = ["What to do: Place your score or roll the dice", f"Progress: Round {rounds - left + 1} of .*"]
+            if players == 2:
+                announced = [] if first and player == 1 else [f"On move: Player {player}"]
+            turn(reader, NEXT if players == 2 and announced else ROLL, announced, left if columns == 1 else 0)
+            if first:
+                hear_the_count(reader)
             if left == 1:
                 finish(reader)
     if players == 2:
