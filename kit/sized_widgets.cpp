@@ -14,7 +14,7 @@ namespace {
 constexpr const char* placeKey = "place";
 constexpr const char* fixedKey = "fixedSize";
 constexpr const char* lettersKey = "letters";
-constexpr const char* sizeKey = "size";  // of a window, in per cent
+constexpr const char* sizeKey = "percent";  // of a window, in per cent
 
 QRect Area(const QRect& twips) {
     QRect area = Pixels(Place{twips.x(), twips.y(), twips.width(), twips.height()});

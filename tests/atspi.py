@@ -103,9 +103,9 @@ def score(name):
 
 
 def turn(reader, begin, announced, boxes):
-    """Writes the box that scores most, after a second roll in which the sixes were held. announced: what else is told
-    of the first roll."""
-    reader.press(TABLE, begin)
+    """Writes the box that scores most, after a second roll in which the sixes were held. begin: makes the first roll.
+    announced: what else is told of it."""
+    begin()
     reader.wait_to_hear("Die . shows ., free", "Roll 1 of 3", "focus: Roll 1 of 3", *announced)
     names = reader.names(OPEN)
     if boxes and len(names) != boxes:
@@ -142,7 +142,8 @@ def finish(reader):
     reader.wait("the total", lambda: reader.shows(TABLE, f"Grand Total: ({'|'.join(totals)})"))
 
 
-def play(reader, columns=1, players=1):
+def play(reader, columns=1, players=1, hold_enter=None):
+    """hold_enter: keeps the key down for a while, which makes no more than the first roll."""
     reader.press("Welcome to LuckyCup.*", "Play")
     rounds = columns * ROWS
     for left in range(rounds, 0, -1):
@@ -151,7 +152,9 @@ def play(reader, columns=1, players=1):
             announced = ["What to do: Place your score or roll the dice", f"Progress: Round {rounds - left + 1} of .*"]
             if players == 2:
                 announced = [] if first and player == 1 else [f"On move: Player {player}"]
-            turn(reader, NEXT if players == 2 and announced else ROLL, announced, left if columns == 1 else 0)
+            name = NEXT if players == 2 and announced else ROLL
+            begin = hold_enter if hold_enter and first else lambda: reader.press(TABLE, name)
+            turn(reader, begin, announced, left if columns == 1 else 0)
             if first:
                 hear_the_count(reader)
             if left == 1:
@@ -173,8 +176,13 @@ def main():
         home = screen.new_home("".join(f"{name}={value}\n" for name, value in settings.items()))
         reader = Reader(screen.start(sys.argv[1], stderr=errors, home=home))
         failure = None
+
+        def hold_enter():
+            window = screen.find_window("Lucky Cup")
+            screen.xdotool("windowfocus", "--sync", window, "keydown", "Return", "sleep", "2", "keyup", "Return")
+
         try:
-            play(reader, int(settings["NumberOfColumns"]), int(settings.get("NumberOfPlayers", 1)))
+            play(reader, int(settings["NumberOfColumns"]), int(settings.get("NumberOfPlayers", 1)), hold_enter)
         except (RuntimeError, TimeoutError) as error:
             failure = str(error)
         errors.seek(0)

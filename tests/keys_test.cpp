@@ -5,6 +5,7 @@
 #include <random>
 #include <span>
 
+#include "kit/held_keys.h"
 #include "table/presses.h"
 #include "table/row_names.h"
 #include "table/window/key_bindings.h"
@@ -236,6 +237,23 @@ TEST(Keys, PressedWhileTheDiceRollActAfterwards) {
         after[early] = QJsonDocument(Seen(t)).toJson().toStdString() + Shortened(t.log);
     }
     EXPECT_EQ(after[true], after[false]);
+}
+
+// X11 repeats a key by a release and a press of one moment, of which Qt may tell nothing.
+TEST(Keys, HeldDownCountOnce) {
+    WindowTable t(VariantOf(4), Ticks::ByHand);
+    const HeldKeys once;
+    const auto send = [&](QEvent::Type type, unsigned long at) {
+        QKeyEvent event(type, Qt::Key_Return, {}, 36, 0, 0);
+        event.setTimestamp(at);
+        QCoreApplication::sendEvent(&t.window, &event);
+    };
+    for (const auto& [pressed, released, rolls] :
+         {std::tuple(100, 760, 1), {760, 800, 1}, {800, 810, 1}, {900, 980, 2}}) {
+        send(QEvent::KeyPress, pressed);
+        send(QEvent::KeyRelease, released);
+        EXPECT_EQ(t.game.session.RollCount, rolls) << pressed;
+    }
 }
 
 TEST(Keys, GoByTheirPlaceWhereALayoutHasOtherSigns) {

@@ -267,7 +267,10 @@ void frmLuckyCup::keyPressEvent(QKeyEvent* event) {
     if (const int code = KeyCode(*event)) return Play([code](Game& game) { Form_KeyPress(game, code); });
     const auto key = PlayerKeyOf(*event);
     if (!key) return QMainWindow::keyPressEvent(event);
-    Play([this, key](Game& game) { PressKey(game, mark_, *key); });
+    Play([this, key](Game& game) {
+        PressKey(game, mark_, *key);
+        if (Repeats(*key)) shownMark_.reset();  // a movement tells where the mark is, also at an edge
+    });
 }
 
 void frmLuckyCup::showEvent(QShowEvent* event) {
