@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QWidget>
-#include <QtMath>
 
 #include "kit/regular_file.h"
 #include "kit/size.h"
@@ -21,7 +20,7 @@ constexpr qint64 longestPointer = 64 << 10;  // bytes; more than a picture of 96
 // Qt hands the X server the hot spot as it stands, though the picture there is in device pixels.
 QCursor PointerOf(const QPixmap& picture, QPointF hotSpot) {
     if (QGuiApplication::platformName() == "xcb") hotSpot *= picture.devicePixelRatio();
-    return QCursor(picture, qFloor(hotSpot.x()), qFloor(hotSpot.y()));
+    return QCursor(picture, qRound(hotSpot.x()), qRound(hotSpot.y()));
 }
 
 int WordAt(const QByteArray& bytes, qsizetype at) {

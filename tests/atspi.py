@@ -110,7 +110,7 @@ def turn(reader, begin, announced, boxes):
     names = reader.names(OPEN)
     if boxes and len(names) != boxes:
         raise RuntimeError(f"{len(names)} boxes are open instead of {boxes}")
-    if all(name.startswith("Announce") for name in names):
+    if all(re.match("Announce column, .*, open", name) for name in names):  # the last one of all needs no word
         reader.press(TABLE, re.escape(names[0]))
         reader.wait_to_hear("Announce column, .*, announced.*")
     for die in reader.names("Die . shows 6, free")[:4]:

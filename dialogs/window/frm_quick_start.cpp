@@ -39,7 +39,9 @@ void SetColours(QTextBrowser& view) {
 }  // namespace
 
 frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& game, Art& art)
-    : DialogWindow(owner, "frmQuickStart", "Quick Start", 9705, 6030), art_(art), RichTextBox1_(new QTextBrowser) {
+    : DialogWindow(owner, "frmQuickStart", "Quick Start", 9705, 6030),
+      art_(art),
+      RichTextBox1_(new QTextBrowser(this)) {
     setAttribute(Qt::WA_QuitOnClose, false);
     RichTextBox1_->setObjectName("RichTextBox1");
     RichTextBox1_->setAccessibleName("Quick-start guide");
