@@ -1,16 +1,25 @@
 #include "kit/size.h"
 
+#include <QVariant>
 #include <QtMath>
 
 namespace {
 int current = toldSize;
-}
+constexpr const char* sizeOfWindow = "sizeInPercent";
+}  // namespace
 
 int Size() { return current; }
 void SetSize(int percent) { current = IsSize(percent) ? percent : toldSize; }
 
 bool IsSize(int percent) {
     return percent >= smallestSize && percent <= largestSize && (percent - smallestSize) % sizeStep == 0;
+}
+
+void SetSizeOf(QWidget& window, int percent) { window.setProperty(sizeOfWindow, percent); }
+
+int SizeIn(const QWidget& widget) {
+    const QVariant own = widget.window()->property(sizeOfWindow);
+    return own.isValid() ? own.toInt() : Size();
 }
 
 qreal Sized(qreal pixels) { return pixels * current / toldSize; }

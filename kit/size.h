@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSize>
+#include <QWidget>
 
 // How large everything that the program shows is, in per cent of the told places and sizes. It belongs to the look of
 // the program as a whole, as its font and its palette do. Who changes it for open windows calls ChangeSize.
@@ -10,6 +11,10 @@ int Size();
 void SetSize(int percent);  // one of the steps; any other is taken for toldSize
 
 bool IsSize(int percent);
+
+// A window that its screen could not hold at this size has one of its own, in which all that stands in it is shown.
+void SetSizeOf(QWidget& window, int percent);
+int SizeIn(const QWidget& widget);  // of its window, or else of the program
 
 // While it lives, the size is that of a window which has one of its own.
 class SizeWithin {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "kit/size.h"
-#include "kit/sized_widgets.h"
 
 namespace {
 int SizeFor(const QWidget* widget) { return widget ? SizeIn(*widget) : Size(); }

@@ -14,7 +14,6 @@ namespace {
 constexpr const char* placeKey = "place";
 constexpr const char* fixedKey = "fixedSize";
 constexpr const char* lettersKey = "letters";
-constexpr const char* sizeKey = "percent";  // of a window, in per cent
 
 QRect Area(const QRect& twips) {
     QRect area = Pixels(Place{twips.x(), twips.y(), twips.width(), twips.height()});
@@ -28,7 +27,7 @@ void FitToScreen(QWidget& widget) {
     if (!widget.isWindow() || !fixed.isValid()) return;
     constexpr int twipsPerPixel = 15;
     const QSize inside = fixed.toSize() / twipsPerPixel;
-    widget.setProperty(sizeKey, FittingSize(Size(), inside, widget.screen()->availableSize()));
+    SetSizeOf(widget, FittingSize(Size(), inside, widget.screen()->availableSize()));
 }
 
 void Keep(QWidget& widget) {
@@ -68,11 +67,6 @@ void SetLetters(QWidget& widget, QFont font, int pixels) {
     widget.setProperty(lettersKey, pixels);
     widget.setFont(font);
     KeepLetters(widget);
-}
-
-int SizeIn(const QWidget& widget) {
-    const QVariant own = widget.window()->property(sizeKey);
-    return own.isValid() ? own.toInt() : Size();
 }
 
 void ChangeSize(int percent) {

@@ -14,9 +14,6 @@ void FixSize(QWidget& widget, int width, int height);
 // A font, in letters of so many pixels at the told size.
 void SetLetters(QWidget& widget, QFont font, int pixels = 11);
 
-// The size of the window in which the widget stands, in per cent: that of the program, if it has none of its own.
-int SizeIn(const QWidget& widget);
-
 // Gives all windows another size, those that are open too. A widget with more to do than to keep what it was told
 // learns of it by a change of style; its own parts have learned of it before.
 void ChangeSize(int percent);

@@ -121,11 +121,7 @@ TEST(Mark, ReachesEveryOpenBoxByTheWayThatTheArrowPoints) {
 
 TEST(Mark, FollowsTheTable) {
     constexpr auto left = PlayerKey::Left, down = PlayerKey::Down, right = PlayerKey::Right;
-    const struct {
-        const char* events;
-        std::vector<PlayerKey> keys;
-        const char* mark;
-    } steps[] = {
+    const std::tuple<const char*, std::vector<PlayerKey>, const char*> steps[] = {
         {"", {left, down}, "none"},  // before the first roll nothing is open
         {"roll", {left, right}, "Oblg0"},
         {"roll", {}, "Rand0"},  // too late to announce
@@ -227,26 +223,18 @@ TEST(Keys, PressedWhileTheDiceRollActAfterwards) {
 // X11 repeats a key by a release and a press of one moment.
 TEST(Keys, OfEnterHeldDownCountOnce) {
     HeldKeys once;
-    const struct {
-        quint8 type, key;
-        quint32 time;
-        bool repeats;
-    } events[] = {{2, 36, 100, false}, {3, 36, 760, false}, {2, 36, 760, true},  {3, 36, 800, false},
-                  {2, 36, 900, false}, {3, 38, 950, false}, {2, 38, 950, false}, {5, 36, 960, false}};
+    const std::tuple<quint32, quint32, quint32, bool> events[] = {
+        {2, 36, 100, false}, {3, 36, 760, false}, {2, 36, 760, true},  {3, 36, 800, false},
+        {2, 36, 900, false}, {3, 38, 950, false}, {2, 38, 950, false}, {5, 36, 960, false}};
     for (const auto& [type, key, time, repeats] : events) {
-        quint32 event[8]{type + 256U * key, time};
+        quint32 event[8]{type + 256 * key, time};
         EXPECT_EQ(once.nativeEventFilter("xcb_generic_event_t", event, nullptr), repeats) << time;
         EXPECT_FALSE(once.nativeEventFilter("other", event, nullptr));
     }
 }
 
 TEST(Keys, GoByTheirPlaceWhereALayoutHasOtherSigns) {
-    const struct {
-        quint32 place;
-        int key;
-        Qt::KeyboardModifiers held;
-        std::optional<PlayerKey> does;
-    } struck[] = {
+    const std::tuple<quint32, int, Qt::KeyboardModifiers, std::optional<PlayerKey>> struck[] = {
         {10, Qt::Key_Ampersand, {}, PlayerKey::Die1},  // in France
         {10, Qt::Key_1, Qt::ShiftModifier, PlayerKey::Die1},
         {15, Qt::Key_Minus, {}, PlayerKey::Die6},

@@ -147,11 +147,7 @@ TEST_F(Sizes, AreChosenByKeysAndWheel) {
 }
 
 TEST_F(Sizes, AtTheStartFitTheScreen) {
-    const struct {
-        int wanted;
-        QSize screen;
-        int fits;
-    } starts[] = {
+    const std::tuple<int, QSize, int> starts[] = {
         {100, {1920, 1080}, 100}, {200, {1920, 1080}, 200}, {225, {1920, 1080}, 200}, {300, {3840, 2160}, 300},
         {100, {911, 512}, 75},    {150, {1366, 768}, 125},  {100, {1366, 768}, 100},  {300, {400, 2160}, 100},
         {100, {640, 480}, 75},    {100, {200, 150}, 75},    {0, {1920, 1080}, 100},   {110, {1920, 1080}, 100},
@@ -164,14 +160,11 @@ TEST_F(Sizes, AtTheStartFitTheScreen) {
     EXPECT_EQ(FittingSize(200, hallOfFame, {1920, 1080}), 175);
 
     const QRect screen(100, 30, 800, 600);
-    const struct {
-        QRect frame;
-        QPoint place;
-    } frames[] = {{{200, 100, 327, 540}, {200, 90}},
-                  {{850, 40, 327, 540}, {573, 40}},
-                  {{-9, -13, 327, 540}, {100, 30}},
-                  {{200, 100, 900, 700}, {100, 30}},
-                  {{400, 500, 327, 700}, {400, 30}}};
+    const std::pair<QRect, QPoint> frames[] = {{{200, 100, 327, 540}, {200, 90}},
+                                               {{850, 40, 327, 540}, {573, 40}},
+                                               {{-9, -13, 327, 540}, {100, 30}},
+                                               {{200, 100, 900, 700}, {100, 30}},
+                                               {{400, 500, 327, 700}, {400, 30}}};
     for (const auto& [frame, place] : frames) EXPECT_EQ(IntoView(frame, screen), place) << frame.x();
 }
 

@@ -9,7 +9,6 @@
 #include "dialogs/window/printing.h"
 #include "kit/controls.h"
 #include "kit/size.h"
-#include "kit/sized_widgets.h"
 
 // The guide lies in a static library, which the linker would take without it.
 static void TakeGuide() { Q_INIT_RESOURCE(guide); }

@@ -5,7 +5,6 @@
 #include <QStyleOptionFocusRect>
 
 #include "kit/size.h"
-#include "kit/sized_widgets.h"
 
 LinkLabel::LinkLabel(const char* name, QWidget* parent, const char* text, const std::string& target, const Place& place)
     : QAbstractButton(parent), place_(place) {

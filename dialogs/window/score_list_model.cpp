@@ -1,7 +1,6 @@
 #include "dialogs/window/score_list_model.h"
 
 #include "kit/size.h"
-#include "kit/sized_widgets.h"
 
 namespace {
 struct Header {
