@@ -117,7 +117,7 @@ def turn(reader, begin, announced, boxes):
         reader.press(TABLE, die)
         reader.wait_to_hear("focus: " + die.replace("free", "held"))
     reader.press(TABLE, ROLL)
-    reader.wait_to_hear("Roll 2 of 3")
+    reader.wait_to_hear("Roll 2 of 3", "focus: Roll 2 of 3")
     best = max(reader.names(OPEN), key=score)
     reader.press(TABLE, re.escape(best))
     reader.wait_to_hear(re.escape(re.sub(", (open|announced).*", "", best)) + r": -?\d+")
