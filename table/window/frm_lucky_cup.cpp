@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QScreen>
 #include <QWindow>
+#include <cassert>
 #include <utility>
 
 #include "core/hints.h"
@@ -81,12 +82,14 @@ void frmLuckyCup::SetMenuStyle(QStyle& style) {
 }
 
 void frmLuckyCup::Load(Game& game) {
+    assert(!game_);
     game_ = &game;
     PlaceOnScreen();
     Run(Form_Load);
 }
 
 void frmLuckyCup::SetPointers() {
+    if (!game_) return;
     SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
     board_.SetPointer(hand);
@@ -290,7 +293,7 @@ bool frmLuckyCup::eventFilter(QObject* watched, QEvent* event) {
 
 void frmLuckyCup::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::StyleChange && isVisible() && game_) SetPointers();
+    if (event->type() == QEvent::StyleChange && isVisible()) SetPointers();
     if (event->type() != QEvent::WindowStateChange || minimized_ == isMinimized()) return;
     minimized_ = isMinimized();
     Run([minimized = minimized_](Game& game) { Form_Resize(game, minimized); });
