@@ -89,13 +89,16 @@ class Reader:
             return all(any(re.fullmatch(name, heard) for heard in self.heard) for name in names)
         self.wait(f"word of {names}", ask)
 
+    def action(self, title, name):
+        """A control and which of its actions presses it, once it can be pressed."""
+        if control := self.shows(title, name):
+            actions = [control.get_action_name(i) for i in range(control.get_n_actions())]
+            return next(((control, i) for i, action in enumerate(actions) if action in ("Press", "Toggle")), None)
+
     def press(self, title, name):
-        control = self.wait(f"{name} in {title}", lambda: self.shows(title, name))
+        control, i = self.wait(f"{name} in {title}", lambda: self.action(title, name))
         self.heard.clear()
-        for i in range(control.get_n_actions()):
-            if control.get_action_name(i) in ("Press", "Toggle"):
-                return control.do_action(i)
-        raise RuntimeError(f"{name} can't be pressed")
+        control.do_action(i)
 
 
 def score(name):

@@ -148,7 +148,7 @@ TEST_F(Sizes, AreChosenByKeysAndWheel) {
 
 TEST_F(Sizes, AtTheStartFitTheScreen) {
     const std::tuple<int, QSize, int> starts[] = {
-        {100, {1920, 1080}, 100}, {200, {1920, 1080}, 200}, {225, {1920, 1080}, 200}, {300, {3840, 2160}, 300},
+        {100, {1920, 1080}, 100}, {200, {1920, 1080}, 175}, {225, {1920, 1200}, 200}, {300, {3840, 2160}, 300},
         {100, {911, 512}, 75},    {150, {1366, 768}, 125},  {100, {1366, 768}, 100},  {300, {400, 2160}, 100},
         {100, {640, 480}, 75},    {100, {200, 150}, 75},    {0, {1920, 1080}, 100},   {110, {1920, 1080}, 100},
         {-75, {800, 600}, 100},   {400, {3840, 2160}, 100},
@@ -156,6 +156,9 @@ TEST_F(Sizes, AtTheStartFitTheScreen) {
     for (const auto& [wanted, screen, fits] : starts)
         EXPECT_EQ(SizeAtStart(wanted, screen), fits) << wanted << " on " << screen.width();
 
+    const QSize yamb = WindowTable(VariantOf(0)).window.size() * 2 + QSize(10, 38);
+    EXPECT_EQ(SizeAtStart(200, yamb), 200);
+    EXPECT_EQ(SizeAtStart(200, yamb - QSize(0, 1)), 175);
     const QSize hallOfFame(433, 540);
     EXPECT_EQ(FittingSize(200, hallOfFame, {1920, 1080}), 175);
 
