@@ -181,7 +181,7 @@ def main():
         failure = None
 
         def hold_enter():
-            window = screen.find_window("Lucky Cup")
+            window = wait_for("the table", lambda: screen.find_window("Lucky Cup 2.3"))
             screen.xdotool("windowfocus", "--sync", window, "keydown", "Return", "sleep", "2", "keyup", "Return")
 
         try:
