@@ -3,8 +3,6 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 
-#include "kit/controls.h"
-
 namespace {
 constexpr const char* checkedProperty = "spokenChecked";
 constexpr const char* roleProperty = "spokenRole";
@@ -33,8 +31,7 @@ public:
 
 private:
     bool IsDecoration() const {
-        const bool drawn = dynamic_cast<const Shape*>(widget()) || dynamic_cast<const Picture*>(widget());
-        return drawn && widget()->accessibleName().isEmpty();
+        return widget()->testAttribute(Qt::WA_TransparentForMouseEvents) && widget()->accessibleName().isEmpty();
     }
 };
 
