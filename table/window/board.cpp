@@ -1,6 +1,7 @@
 #include "table/window/board.h"
 
 #include <QMouseEvent>
+#include <utility>
 
 #include "kit/sized_widgets.h"
 #include "kit/spoken.h"
@@ -47,9 +48,13 @@ void BoxButton::SetHint(const QString& points) {
     SayState();
 }
 
+void BoxButton::SetAnnounced(bool on) {
+    if (std::exchange(announced_, on) != on) SayState();
+}
+
 void BoxButton::SayState() {
     const QString score = isEnabled() && !hint_.isEmpty() ? ", would score " + hint_ : QString();
-    Say(*this, box_ + (isEnabled() ? ", open" : ", closed") + score);
+    Say(*this, box_ + (!isEnabled() ? ", closed" : announced_ ? ", announced" : ", open") + score);
 }
 
 void BoxButton::TellHover(bool on) {
@@ -188,6 +193,10 @@ void Board::ShowMark(const std::optional<Box>& mark) {
     for (ScoreColumn column : allColumns)
         for (int row = 0; row < rowCount; ++row)
             Button(column, row).SetMarked(mark ? std::optional(*mark == Box{column, row}) : std::nullopt);
+}
+
+void Board::SetAnnounced(bool on) {
+    for (int row = 0; row < rowCount; ++row) Button(ScoreColumn::Oblg, row).SetAnnounced(on);
 }
 
 void Board::SetPointer(const QCursor& pointer) {

@@ -150,6 +150,13 @@ void DiceTray::ShowFace(int i, int face) {
 
 void DiceTray::ShowRollingFace(int i, int face) { At(i).free->SetLooks(RollingLooks(face)); }
 
+void DiceTray::SayRoll(const QString& faces) {
+    lamps_->setAccessibleDescription("The dice show " + faces);
+    SayFocus(*lamps_);
+}
+
+QWidget& DiceTray::ShownDie(int i) { return At(i).held->isHidden() ? *At(i).free : *At(i).held; }
+
 void DiceTray::ShowFree(int i) {
     At(i).free->show();
     At(i).held->hide();
