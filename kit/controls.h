@@ -31,6 +31,7 @@ inline constexpr QColor trayEdge{0x3C, 0x3C, 0x3C};
 inline constexpr QColor satinHot{0xF4, 0xF8, 0xFF};
 inline constexpr QColor satinHigh{0xD5, 0xE3, 0xFB};
 inline constexpr QColor satinLow{0x9C, 0xBB, 0xF0};
+inline constexpr QColor satinEdge{0x4A, 0x68, 0xA6};
 inline constexpr QColor goldHigh{0xFF, 0xF0, 0xB8};
 inline constexpr QColor gold{0xF0, 0xBE, 0x45};
 inline constexpr QColor goldLow{0xB8, 0x7C, 0x17};
@@ -137,8 +138,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // From top to bottom; a middle that is no colour is left out.
-    QLinearGradient Shaded(const QColor& top, const QColor& middle, const QColor& bottom) const;
     void PaintCaption(QPainter& painter);
 
     QString caption_;

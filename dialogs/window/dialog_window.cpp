@@ -1,6 +1,7 @@
 #include "dialogs/window/dialog_window.h"
 
 #include <QScreen>
+#include <QShortcut>
 
 #include "kit/controls.h"
 #include "kit/pointers.h"
@@ -23,9 +24,11 @@ void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share
     move(IntoView({place, frame}, window.screen()->availableGeometry()));
 }
 
-void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {
+void DialogWindow::Equip(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {
     SetBasePointer(*this, QString::fromStdString(game.session.AppPath));
     for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [&shell = game.shell] { shell.ShowHelpContents(); });
 }
 
 void BringToFront(QWidget& window) {

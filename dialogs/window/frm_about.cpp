@@ -26,7 +26,7 @@ frmAbout::frmAbout(QWidget& mainWindow, Game& game, Art& art)
     close->setDefault(true);
     close->setFocus();
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    SetPointers(game, art, {close, links.webSite, links.email});
+    Equip(game, art, {close, links.webSite, links.email});
     PlaceOverOwner();
 }
 

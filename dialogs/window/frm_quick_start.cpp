@@ -58,7 +58,7 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
     auto* all = new QVBoxLayout(this);
     all->addWidget(RichTextBox1_);
     all->addLayout(buttons);
-    SetPointers(game, art, {print, ok});
+    Equip(game, art, {print, ok});
     PlaceOver(over);
 }
 
