@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStringDecoder>
@@ -169,7 +170,10 @@ void HelpWindow::Find() {
 
 void HelpWindow::Resize(int pixels) {
     letters_ = std::clamp(pixels, leastLetters, mostLetters);
+    const QTextCursor read = text_->cursorForPosition({0, 0});
     SetLetters(*text_, TableFont(false), letters_);
+    QScrollBar& bar = *text_->verticalScrollBar();
+    bar.setValue(bar.value() + text_->cursorRect(read).top());
 }
 
 void HelpWindow::Print() {
