@@ -50,29 +50,22 @@ TEST(Welcome, LeadsEverywhereByKeysAndByMouse) {
             {"look at the guide", [] { ExpectPlace("frmQuickStart", *Shown("frmWelcome")); }}});
 }
 
-// By the letters of starts.txt.
 TEST(Welcome, SettlesTheNextStart) {
     Session t;
-    const QHash<QChar, QString> acts{{'c', "@Check1"},
-                                     {'n', "@cmdOptions @optShowNone Return"},
-                                     {'s', "@cmdOptions @optShowSplash Return"},
-                                     {'d', "@cmdOptions @optShowDialog Return"},
-                                     {'o', "@cmdOptions Return"},
-                                     {'x', "@cmdOptions Escape"}};
-    const QStringList told = CasesOf("starts.txt"), ends{"@cmdPlay", "@cmdExit", "close"};
-    for (qsizetype line = 0; line < told.size(); ++line) {
-        const QStringList words = told[line].split(' ');
-        QStringList session{"start"};
-        for (const QChar letter : words[1]) session += acts.value(letter).split(' ', Qt::SkipEmptyParts);
-        const bool plays = line % 3 == 0;
-        session << ends[line % 3] + " | frmLuckyCup" + (words[2] == "=" && !plays ? "" : " | ") +
-                       (words[2] == "=" ? "" : "save;") + (plays ? "table;" : "");
-        t.store.SaveSettings({.ShowDialog = true, .ShowSplash = words[0] == "DS"});
-        t.Play(session, {{"start", [&] { t.Start(); }}});
+    t.describe = [&](const QWidget&) {
         const GameSettings kept = t.store.LoadSettings();
-        const QString now = QString(kept.ShowDialog ? "D" : "") + (kept.ShowSplash ? "S" : "");
-        EXPECT_EQ(now.isEmpty() ? "-" : now, words[words[2] == "=" ? 0 : 2]) << told[line].toStdString();
-    }
+        return kept.ShowDialog || kept.ShowSplash
+                   ? QString("D").repeated(kept.ShowDialog) + QString("S").repeated(kept.ShowSplash)
+                   : "-";
+    };
+    const auto given = [&](bool splash) {
+        return [&t, splash] {
+            t.store.SaveSettings({.ShowDialog = true, .ShowSplash = splash});
+            t.Log();
+        };
+    };
+    t.Play(CasesOf("starts.txt"),
+           {{"start", [&] { t.Start(); }}, {"given D", given(false)}, {"given DS", given(true)}});
 }
 
 TEST(Splash, EndsOnce) {
@@ -83,10 +76,9 @@ TEST(Splash, EndsOnce) {
         clock.start();
         t.dialogs.frmSplash(t.game);
         const QWidget& splash = *Shown("frmSplash");
-        const QSize screen = splash.screen()->size(), size(378, 210);
-        EXPECT_EQ(
-            splash.geometry(),
-            QRect(QPoint((screen.width() * 15 - 378) / 3 / 15, (screen.height() * 15 - 210 * 16) / 2 / 15), size));
+        const QSize screen = splash.screen()->size();
+        const QPoint place((screen.width() * 15 - 378) / 3, (screen.height() * 15 - 210 * 16) / 2);
+        EXPECT_EQ(splash.geometry(), QRect(place / 15, QSize(378, 210)));
         EXPECT_TRUE(splash.windowFlags().testFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint));
     };
     t.Play(CasesOf("sessions.txt", "splash"), {{"open", open},
@@ -157,9 +149,7 @@ TEST(Guide, SaysWhatItIsToldInLightLetters) {
         const QString mark(heading == 0 ? 0 : heading == 1 ? 2 : 1, '*');
         found << mark + block.text().replace(QChar::Nbsp, ' ').replace(QChar::ObjectReplacementCharacter, u'☺') + mark;
     }
-    const QStringList told = CasesOf("guide.txt");
-    ASSERT_EQ(found.size(), told.size());
-    for (qsizetype i = 0; i < told.size(); ++i) EXPECT_EQ(found[i], told[i]);
+    EXPECT_EQ(found.join('\n'), CasesOf("guide.txt").join('\n'));
     ExpectPictures(text);
     const QColor ground(0, 51, 102);
     EXPECT_EQ(t.view.grab().toImage().pixelColor(5, 5), ground);
@@ -211,11 +201,13 @@ TEST(Guide, IsReadAndPrintedBesideTheTable) {
     EXPECT_EQ(PdfText(t.folder.filePath("words.pdf")), "FreeColumn");
 }
 
+// The help of a file that holds this text, or of none.
 struct Help {
     explicit Help(const QByteArray& text) {
-        if (text.isNull()) return;
         QFile file(folder.filePath("LCHelp23.hlp"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        EXPECT_TRUE(text.isNull() || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size()));
+        file.close();
+        shell.ShowHelpContents();
     }
 
     QTemporaryDir folder;
@@ -232,89 +224,67 @@ QByteArray HelpText() {
 TEST(Help, ShowsNothingOfAFileThatIsNotWhole) {
     const QByteArray whole = HelpText();
     for (const QByteArray& text : {QByteArray(), QByteArray(""), whole.left(whole.size() / 2), whole + '\xFF'}) {
-        Help help(text);
-        help.shell.ShowHelpContents();
+        const Help help(text);
         EXPECT_FALSE(Shown("Help"));
     }
 }
 
-// The help, open.
-struct OpenHelp : Help {
-    OpenHelp() : Help(HelpText()) {}
-    QWidget& Open() {
-        shell.ShowHelpContents();
-        return *Shown("Help");
-    }
-    QWidget& window = Open();
-    QTextBrowser& view = In<QTextBrowser>(window, "text");
-    QTreeWidget& contents = In<QTreeWidget>(window, "contents");
-};
-
-TEST(Help, ItsLinksAndPicturesAreThere) {
-    OpenHelp help;
-    help.shell.ShowHelpContents();
-    EXPECT_EQ(Shown("Help"), &help.window) << "the open one comes to the front";
-    EXPECT_TRUE(!help.window.isModal() && help.view.toPlainText().contains("/where/the <scores> lie"));
-    ExpectPictures(*help.view.document());
-    QStringList links, anchors;
-    ForEachPart(*help.view.document(), [&](const QTextCharFormat& format, const QTextBlock&) {
-        anchors << format.anchorNames();
-        if (!format.anchorHref().isEmpty()) links << format.anchorHref();
-    });
-    for (QTreeWidgetItemIterator entry(&help.contents); *entry; ++entry)
-        links << '#' + (*entry)->data(0, Qt::UserRole).toString();
-    EXPECT_GT(links.size(), 60);
-    for (const QString& link : links)
-        EXPECT_TRUE(link.startsWith('#') && anchors.contains(link.mid(1))) << link.toStdString();
-    help.shell.CloseHelp();
-    EXPECT_FALSE(Shown("Help"));
-}
-
 // The keys of the window, those of its menus and the few that are neither.
 QStringList KeysOfTheTable() {
-    QStringList keys{"Enter", "Space",     "F10",        "Alt+G",  "Alt+T",
-                     "Alt+H", "Ctrl+plus", "Ctrl+minus", "Ctrl+0", "Ctrl+wheel"};
+    QStringList keys = QString("Enter Space F10 Alt+G Alt+T Alt+H Ctrl+plus Ctrl+minus Ctrl+0 Ctrl+wheel").split(' ');
     const Visits t;
     for (const QAction* entry : t.window.findChildren<QAction*>())
         if (!entry->shortcut().isEmpty()) keys << entry->shortcut().toString();
-    const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier,
-                                               Qt::ControlModifier | Qt::ShiftModifier};
-    for (const Qt::KeyboardModifiers held : modifiers)
+    for (unsigned held = 0; held < 8; ++held)
         for (int key = 0; key < 0x200; ++key) {
-            const auto of = static_cast<Qt::Key>(key < 0x100 ? key : Qt::Key_Escape + key - 0x100);
-            if (!PlayerKeyOf(QKeyEvent(QEvent::KeyPress, of, held))) continue;
-            keys << QKeySequence(held | of).toString().replace("Return", "Enter");
+            const auto modifiers = Qt::KeyboardModifiers::fromInt(held * Qt::ShiftModifier);
+            const auto code = static_cast<Qt::Key>(key < 0x100 ? key : Qt::Key_Escape + key - 0x100);
+            if (PlayerKeyOf(QKeyEvent(QEvent::KeyPress, code, modifiers)))
+                keys << QKeySequence(modifiers | code).toString().replace("Return", "Enter");
         }
     keys.removeDuplicates();
     keys.sort();
     return keys;
 }
 
-TEST(Help, TellsOfEveryRowColumnAndKey) {
-    OpenHelp help;
-    QStringList chapters;
-    for (QTreeWidgetItemIterator entry(&help.contents); *entry; ++entry) chapters << (*entry)->text(0);
-    const QString named = chapters.join(", ");
-    for (const char* row : rowNames) EXPECT_TRUE(named.contains(row)) << row;
+TEST(Help, TellsOfEverythingAndItsLinksLead) {
+    const Help help(HelpText());
+    QWidget& window = *Shown("Help");
+    const QTextDocument& text = *In<QTextBrowser>(window, "text").document();
+    EXPECT_TRUE(!window.isModal() && text.toPlainText().contains("/where/the <scores> lie"));
+    ExpectPictures(text);
+    QStringList links, anchors;
+    ForEachPart(text, [&](const QTextCharFormat& format, const QTextBlock&) {
+        anchors << format.anchorNames();
+        if (!format.anchorHref().isEmpty()) links << format.anchorHref();
+    });
+    QString chapters;
+    for (QTreeWidgetItemIterator entry(&In<QTreeWidget>(window, "contents")); *entry; ++entry) {
+        links << '#' + (*entry)->data(0, Qt::UserRole).toString();
+        chapters += (*entry)->text(0) + ", ";
+    }
+    EXPECT_GT(links.size(), 60);
+    for (const QString& link : links)
+        EXPECT_TRUE(link.startsWith('#') && anchors.contains(link.mid(1))) << link.toStdString();
+    for (const char* row : rowNames) EXPECT_TRUE(chapters.contains(row)) << row;
     for (const char* column : {"Down, the", "Up, the", "Free, the", "Announce, the", "Announcing, step by step"})
-        EXPECT_TRUE(named.contains(column)) << column;
-    QTextCursor cells = help.view.document()->find("Holds or releases that die");
-    ASSERT_TRUE(cells.currentTable());
-    QStringList keys;
-    for (int row = 1; row < cells.currentTable()->rows(); ++row)
-        keys << cells.currentTable()->cellAt(row, 0).firstCursorPosition().block().text();
-    const QString all = keys.join(", ").replace("1 to 6", "1, 2, 3, 4, 5, 6").replace(" or ", ", ");
-    keys = all.split(", ");
-    keys.sort();
-    EXPECT_EQ(keys, KeysOfTheTable());
+        EXPECT_TRUE(chapters.contains(column)) << column;
+    const QTextTable* keys = text.find("Holds or releases that die").currentTable();
+    ASSERT_TRUE(keys);
+    QString told;
+    for (int row = 1; row < keys->rows(); ++row)
+        told += (row > 1 ? ", " : "") + keys->cellAt(row, 0).firstCursorPosition().block().text();
+    QStringList all = told.replace("1 to 6", "1, 2, 3, 4, 5, 6").replace(" or ", ", ").split(", ");
+    all.sort();
+    EXPECT_EQ(all, KeysOfTheTable());
 }
 
 TEST(Help, IsReadByMouseAndKeys) {
     Visits t;
     t.describe = TextInView;
     Help help(HelpText());
-    t.Play(CasesOf("sessions.txt", "help"), {{"open", [&] { help.shell.ShowHelpContents(); }}});
-    EXPECT_EQ(In<QLineEdit>(*Shown("Help"), "find").palette().color(QPalette::Text), QColor(Qt::red)) << "not found";
+    t.Play(CasesOf("sessions.txt", "help"),
+           {{"open", [&] { help.shell.ShowHelpContents(); }}, {"close the help", [&] { help.shell.CloseHelp(); }}});
 }
 
 }  // namespace

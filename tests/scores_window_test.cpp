@@ -66,14 +66,14 @@ struct Hall : Visits {
         QString files;
         for (int number = 1; number <= 4; ++number)
             if (QFile::exists(Path(number))) files += QString::number(number);
-        return QString("%1 %2 %3 %4 %5")
+        return QString("%1 %2 %3 %4 %5%6")
             .arg(Strip().currentIndex())
             .arg(rows == 0              ? "!"
                  : Cell(0, 2).isEmpty() ? "-"
                                         : Cell(0, 2),
                  In(*hall, "cmdClearTable").isEnabled() ? "on" : "off")
             .arg(selected.isEmpty() ? 0 : selected[0].row() + 1)
-            .arg(files);
+            .arg(files, List().showGrid() ? " grid" : "");
     }
 
     std::unique_ptr<frmScores2> hall;
@@ -162,21 +162,6 @@ TEST(HallOfFame, ShowsTheBytesOfItsFile) {
             EXPECT_EQ(h.List().rowHeight(row), 18);
         }
         EXPECT_TRUE(h.List().rect().contains(h.List().visualRect(h.Index(19, 3)))) << "the row of the score is in view";
-    }
-}
-
-TEST(HallOfFame, KeepsTheGridLinesHoweverItCloses) {
-    Hall h;
-    bool grid = h.game.settings.ShowGridLines;
-    for (const char* end : {"@cmdReturn", "Alt+R", "Return", "Escape", "close"}) {
-        h.Open("v0");
-        EXPECT_TRUE(h.List().showGrid() == grid && In(*h.hall, "Check1").isChecked() == grid);
-        Act(*h.hall, "@Check1");
-        grid = !grid;
-        EXPECT_TRUE(h.List().showGrid() == grid && h.game.settings.ShowGridLines != grid);
-        Act(*h.hall, end);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return h.hall->isHidden(); })) << end;
-        EXPECT_EQ(h.game.settings.ShowGridLines, grid);
     }
 }
 

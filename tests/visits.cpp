@@ -140,7 +140,7 @@ void Visits::Step() {
     if (session_.isEmpty()) return;
     line_ = session_.takeFirst();
     wanted_ = line_.section(" | ", 1);
-    patience_.setRemainingTime(2000);
+    patience_.setRemainingTime(3000);
     const QString act = line_.section(" | ", 0, 0);
     running_ << modal;
     if (others_.contains(act))

@@ -26,7 +26,7 @@ constexpr const char* colours =
     "body{color:#1b1b2b} h1{color:#003366} h2{color:#14508c} th{background-color:#e0e6f2} "
     "th,td{border-color:#b8c4d8} a{color:#14508c}";
 constexpr QSize roomySize(860, 600);
-constexpr int contentsWidth = 240;
+constexpr int contentsWidth = 280, contentsStep = 12;
 constexpr int letterStep = 2, leastLetters = 9, mostLetters = 33;  // pixels
 
 // The text of the file, or nothing when it is not whole.
@@ -88,6 +88,7 @@ void HelpWindow::FitToSize() {
     auto* document = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, text_->font(), colours, html_, text_);
     document->setDocumentMargin(SizedDown(letters_));
     ShowInPlace(*text_, document);
+    contents_->setIndentation(Sized(contentsStep));
     find_->setFixedWidth(Sized(contentsWidth));
 }
 
