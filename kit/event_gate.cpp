@@ -9,7 +9,7 @@ void EventGate::Run(Handler handler) {
         return;
     }
     while (!waiting_.empty()) RunFirstWaiting();
-    Enter(handler);
+    if (!shut_) Enter(handler);
 }
 
 void EventGate::Shut() {

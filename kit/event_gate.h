@@ -12,7 +12,6 @@ public:
     using Handler = std::function<void()>;
 
     void Run(Handler handler);
-    bool Busy() const { return depth_ > 0; }
     void Shut();  // lets nothing in any more and drops what waits
 
     // Stands around the event loop of a modal window.
@@ -38,6 +37,7 @@ private:
         EventGate& gate_;
     };
 
+    bool Busy() const { return depth_ > 0; }
     void Enter(const Handler& handler);
     void RunLater();
     void RunFirstWaiting();

@@ -29,7 +29,7 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
     EXPECT_EQ(ticks, 1);
 }
 
-TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
+TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFailsUntilItIsShut) {
     EventGate gate;
     std::string ran;
     gate.Run([&] {
@@ -44,7 +44,25 @@ TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
                  std::runtime_error);
     gate.Run([&] { ran += "next "; });
     QTest::qWait(1);
+    gate.Run([&] { gate.Run([&] { gate.Shut(); }); });
+    gate.Run([&] { ran += "behind the shut door "; });
     EXPECT_EQ(ran, "0 1 2 later next ");
+}
+
+TEST(Gate, IsOpenBehindAModalWindowThatStandsInsideAHandler) {
+    EventGate gate;
+    std::string ran;
+    gate.Run([&] {
+        gate.Run([&] { ran += "waited "; });
+        {
+            const EventGate::Open open(gate);
+            gate.Run([&] { ran += "behind "; });
+        }
+        gate.Run([&] { ran += "after "; });
+        ran += "end ";
+    });
+    QTest::qWait(5);
+    EXPECT_EQ(ran, "waited behind end after ");
 }
 
 }  // namespace
