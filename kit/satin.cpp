@@ -1,6 +1,6 @@
 #include "kit/satin.h"
 
-#include "kit/controls.h"
+#include "kit/colours.h"
 
 namespace {
 // From top to bottom.

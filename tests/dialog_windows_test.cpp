@@ -121,13 +121,15 @@ void ExpectPictures(const QTextDocument& text) {
     });
 }
 
-// Of a window with a text: its letters, from where it shows and what is selected.
+// Of a window with a text: its letters, and the paragraph from which it shows or in which something is selected.
 QString TextInView(const QWidget& window) {
     const auto* view = window.findChild<QTextBrowser*>();
     if (!view) return {};
+    const QTextCursor chosen = view->textCursor();
+    const QTextBlock block = (chosen.hasSelection() ? chosen : view->cursorForPosition({20, 5})).block();
     return QString("%1 %2 <%3>")
         .arg(view->document()->defaultFont().pixelSize())
-        .arg(view->cursorForPosition({20, 5}).block().text().left(20), view->textCursor().selectedText());
+        .arg(block.text().left(20), chosen.selectedText());
 }
 
 // The guide, beside the table.
