@@ -21,7 +21,8 @@ QFont BoxFont();  // the families of boxes and totals; the rest is their parent'
 // The edge of an area, one device pixel wide. An invalid colour paints nothing.
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight);
 
-// A filled area with an edge; one that is nothing but a left or top edge is a line. Takes no mouse.
+// A filled area, with a sheen on its upper half where it has an edge; one that is nothing but a left or top edge is a
+// line. Takes no mouse.
 class Shape final : public QWidget {
 public:
     Shape(const QString& name, QWidget* parent, QColor fill, QColor topLeftEdge = {}, QColor bottomRightEdge = {});
@@ -32,6 +33,18 @@ protected:
 
 private:
     QColor fill_, topLeftEdge_, bottomRightEdge_;
+};
+
+// A ground with round corners, sunk so that its upper rim throws a soft shadow on it. Takes no mouse.
+class Well final : public QWidget {
+public:
+    Well(const QString& name, QWidget* parent, QColor fill);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor fill_;
 };
 
 struct LabelLook {
@@ -75,6 +88,7 @@ public:
     struct Looks {
         QString plain;
         QString underMouse{}, pressed{}, disabled{};
+        QString mark{};  // drawn on all but the disabled one
     };
 
     PictureButton(const QString& name, QWidget* parent, Art& art, const Looks& looks);

@@ -25,7 +25,9 @@ void SetSpokenText(TextLabel& label, const QString& called, const QString& text)
     Say(label, called + ": " + (text.isEmpty() ? "empty" : text));
 }
 
-PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_pressed", "box_empty"}; }
+PictureButton::Looks NarrowLooks(ScoreColumn column) {
+    return {"box_open", "box_hot", "box_pressed", "box_empty", QString("mark_%1").arg(static_cast<int>(column))};
+}
 PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, Index("row_pressed", row), {}}; }
 PictureButton::Looks WideHotLooks(int row) {
     return {Index("row_hot", row), {}, Index("row_pressed", row), Index("row_plain", row)};
@@ -33,7 +35,7 @@ PictureButton::Looks WideHotLooks(int row) {
 }  // namespace
 
 BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover)
-    : PictureButton(name, parent, art, NarrowLooks()), box_(box), hover_(std::move(hover)) {
+    : PictureButton(name, parent, art, {}), box_(box), hover_(std::move(hover)) {
     setMouseTracking(true);
     setEnabled(false);
     hide();
@@ -85,7 +87,7 @@ void BoxButton::changeEvent(QEvent* event) {
 }
 
 Board::Board(QWidget* table, Art& art, const Events& events)
-    : ground_(new Shape(boxGroundPlace.name, table, colour::boxGround)),
+    : ground_(new Well(boxGroundPlace.name, table, colour::boxGround)),
       arrowsFour_(new Picture("imgArrow", table, art, "arrows_4")),
       arrowsOne_(new Picture("imgArrow2", table, art, "arrows_1")) {
     Put(*arrowsFour_, arrowsFourPlace);
@@ -138,9 +140,11 @@ void Board::LayOut(int columns) {
     Put(*ground_, boxGroundPlace.In(columns));
     arrowsFour_->setVisible(four);
     arrowsOne_->setVisible(!four);
-    for (ScoreColumn column : allColumns) PlaceColumn(column, columns);
-    for (int row = 0; row < rowCount; ++row)
-        Button(ScoreColumn::Rand, row).SetLooks(four ? NarrowLooks() : WideLooks(row));
+    for (ScoreColumn column : allColumns) {
+        PlaceColumn(column, columns);
+        for (int row = 0; row < rowCount; ++row)
+            Button(column, row).SetLooks(four ? NarrowLooks(column) : WideLooks(row));
+    }
 }
 
 void Board::PlaceColumn(ScoreColumn column, int columns) {

@@ -67,7 +67,7 @@ private:
     void MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events);
     void PlaceColumn(ScoreColumn column, int columns);
 
-    Shape* ground_;
+    Well* ground_;
     Picture* arrowsFour_;
     Picture* arrowsOne_;
     ByColumn<Column> columns_;

@@ -66,8 +66,8 @@ void RollButton::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 DiceTray::DiceTray(QWidget* table, Art& art, const Events& events)
-    : tray_(new Shape(trayPlace.name, table, colour::tray, colour::trayEdge, colour::trayEdge)),
-      rollFrame_(new Shape(rollFramePlace.name, table, {}, colour::trayEdge, colour::trayEdge)),
+    : tray_(new Well(trayPlace.name, table, colour::tray)),
+      rollFrame_(new Well(rollFramePlace.name, table, colour::rollGround)),
       roll_(new RollButton(table, art, events.rollCancelled)) {
     for (int i = 0; i < maxDice; ++i) MakeDie(i, table, art, events);
     MakeRollButton(art, events);

@@ -63,9 +63,9 @@ private:
     void MakeRollButton(Art& art, const Events& events);
     Die& At(int i) { return dice_[i]; }
 
-    Shape* tray_;
+    Well* tray_;
     ByDie<Die> dice_{};
-    Shape* rollFrame_;
+    Well* rollFrame_;
     RollButton* roll_;
     ByLamp<Picture*> darkLamps_{};
     ByLamp<Picture*> litLamps_{};
