@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "kit/satin.h"
 #include "kit/size.h"
 #include "kit/twips.h"
 
@@ -177,29 +178,10 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
-    const qreal radius = Sized(4.5);  // covers the corners of the Roll button
-    const qreal edge = Sized(2.5);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF outer = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen(colour::goldEdge, 1));
-    painter.setBrush(Shaded(isDown() ? colour::goldLow : colour::goldHigh, colour::gold,
-                            isDown() ? colour::goldHigh : colour::goldLow));
-    painter.drawRoundedRect(outer, radius, radius);
-    const QColor top = isDown() ? colour::satinLow : underMouse() ? colour::satinHot : colour::satinHigh;
-    const QColor bottom = isDown() ? colour::satinHigh : colour::satinLow;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Shaded(top, {}, bottom));
-    painter.drawRoundedRect(outer.adjusted(edge, edge, -edge, -edge), radius - edge / 2, radius - edge / 2);
+    constexpr qreal radius = 4.5, rim = 2.5;  // covers the corners of the Roll button
+    PaintSatin(painter, rect(), Sized(radius), Sized(rim), {Rim::Golden, isDown(), underMouse()});
     PaintCaption(painter);
-}
-
-QLinearGradient CaptionButton::Shaded(const QColor& top, const QColor& middle, const QColor& bottom) const {
-    QLinearGradient gradient(0, 0, 0, height());
-    gradient.setColorAt(0, top);
-    if (middle.isValid()) gradient.setColorAt(0.5, middle);
-    gradient.setColorAt(1, bottom);
-    return gradient;
 }
 
 void CaptionButton::PaintCaption(QPainter& painter) {

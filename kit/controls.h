@@ -6,44 +6,10 @@
 #include <optional>
 
 #include "kit/art.h"
+#include "kit/colours.h"
 
 // The small controls that the main window is made of. None of them takes the keyboard: Enter and space belong to the
 // window.
-
-namespace colour {
-inline constexpr QColor black{0x00, 0x00, 0x00};
-inline constexpr QColor white{0xFF, 0xFF, 0xFF};
-inline constexpr QColor window{0xCD, 0xCD, 0xCD};
-inline constexpr QColor light{0xF6, 0xF6, 0xF6};
-inline constexpr QColor dark{0x7C, 0x7C, 0x7C};
-inline constexpr QColor softLight{0xEA, 0xEA, 0xEE};
-inline constexpr QColor softDark{0xA8, 0xA8, 0xB4};
-inline constexpr QColor rowPanel{0x60, 0x57, 0xAF};
-inline constexpr QColor rowFrame{0xA9, 0xA4, 0xDC};
-inline constexpr QColor box{0xBC, 0xCF, 0xEC};
-inline constexpr QColor boxShade{0x93, 0xA9, 0xD0};
-inline constexpr QColor boxShine{0xDD, 0xE8, 0xF8};
-inline constexpr QColor maxMinText{0x40, 0x40, 0x40};
-inline constexpr QColor sumText{0x00, 0x00, 0xFF};
-inline constexpr QColor columnTotal{0xE4, 0xEC, 0xFA};
-inline constexpr QColor columnTotalText{0x00, 0x00, 0xC0};
-inline constexpr QColor sumLabel{0xCF, 0xD0, 0xE0};
-inline constexpr QColor tray{0x50, 0x50, 0x50};
-inline constexpr QColor rollGround{0x3C, 0x3C, 0x3C};
-inline constexpr QColor shade{0x00, 0x00, 0x10, 0x58};
-inline constexpr QColor sheen{0xC8, 0xC4, 0xF4, 0x3C};
-inline constexpr QColor satinHot{0xF4, 0xF8, 0xFF};
-inline constexpr QColor satinHigh{0xD5, 0xE3, 0xFB};
-inline constexpr QColor satinLow{0x9C, 0xBB, 0xF0};
-inline constexpr QColor goldHigh{0xFF, 0xF0, 0xB8};
-inline constexpr QColor gold{0xF0, 0xBE, 0x45};
-inline constexpr QColor goldLow{0xB8, 0x7C, 0x17};
-inline constexpr QColor goldEdge{0x6A, 0x45, 0x08};
-inline constexpr QColor boxGround{0x90, 0x90, 0x90};
-inline constexpr QColor dimmed{0x10, 0x18, 0x30, 0x80};
-inline constexpr QColor tip{0xFF, 0xFF, 0x00};
-inline constexpr QColor highlight{0xFF, 0xFF, 0xE1};
-}  // namespace colour
 
 // A font of the told families, or of those that stand for them, in so many device-independent pixels at the
 // told size.
@@ -155,8 +121,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // From top to bottom; a middle that is no colour is left out.
-    QLinearGradient Shaded(const QColor& top, const QColor& middle, const QColor& bottom) const;
     void PaintCaption(QPainter& painter);
 
     QString caption_;

@@ -15,15 +15,15 @@ struct RoleColour {
 };
 
 constexpr RoleColour lightColours[] = {
-    {QPalette::Window, 0xFFF0F0F0},      {QPalette::WindowText, 0xFF101010},
+    {QPalette::Window, 0xFFEBECF6},      {QPalette::WindowText, 0xFF101010},
     {QPalette::Base, 0xFFFFFFFF},        {QPalette::AlternateBase, 0xFFF1F1F1},
-    {QPalette::Text, 0xFF101010},        {QPalette::Button, 0xFFE6E8EE},
+    {QPalette::Text, 0xFF101010},        {QPalette::Button, 0xFFDEE4F2},
     {QPalette::ButtonText, 0xFF101010},  {QPalette::BrightText, 0xFFFFFFFF},
     {QPalette::ToolTipBase, 0xFFFFFFE1}, {QPalette::ToolTipText, 0xFF101010},
     {QPalette::Highlight, 0xFF3563B8},   {QPalette::HighlightedText, 0xFFFFFFFF},
     {QPalette::Link, 0xFF1F4FA8},        {QPalette::LinkVisited, 0xFF5B3A91},
-    {QPalette::Light, 0xFFFFFFFF},       {QPalette::Midlight, 0xFFF6F6F6},
-    {QPalette::Mid, 0xFFB4B4B4},         {QPalette::Dark, 0xFF8C8C8C},
+    {QPalette::Light, 0xFFFFFFFF},       {QPalette::Midlight, 0xFFF4F5FB},
+    {QPalette::Mid, 0xFFAEB2C8},         {QPalette::Dark, 0xFF868AA0},
     {QPalette::Shadow, 0xFF505050},      {QPalette::PlaceholderText, 0xFF707070},
 };
 
@@ -31,7 +31,7 @@ constexpr RoleColour disabledColours[] = {
     {QPalette::WindowText, 0xFF808080},
     {QPalette::Text, 0xFF808080},
     {QPalette::ButtonText, 0xFF808080},
-    {QPalette::Base, 0xFFF0F0F0},
+    {QPalette::Base, 0xFFEBECF6},
 };
 }  // namespace
 

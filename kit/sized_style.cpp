@@ -1,7 +1,8 @@
 #include "kit/sized_style.h"
 
-#include <algorithm>
+#include <QStyleOptionButton>
 
+#include "kit/satin.h"
 #include "kit/size.h"
 
 namespace {
@@ -45,9 +46,22 @@ int SizedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 
 QSize SizedStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                    const QWidget* widget) const {
-    constexpr int leastButtonWidth = 80;
+    constexpr QSize leastButton(80, 26);
     const SizeWithin window(SizeFor(widget));
     const QSize told = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type != CT_PushButton) return told;
-    return {std::max(told.width(), Sized(leastButtonWidth)), told.height()};
+    return told.expandedTo(Sized(leastButton));
+}
+
+void SizedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != PE_PanelButtonCommand || !button)
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const SizeWithin window(SizeFor(widget));
+    const QStyle::State state = button->state;
+    const bool byEnter = button->features.testFlag(QStyleOptionButton::DefaultButton);
+    const Rim rim = !state.testFlag(State_Enabled) ? Rim::Grey : byEnter ? Rim::Golden : Rim::Blue;
+    PaintSatin(*painter, button->rect, Sized(4.0), rim == Rim::Golden ? Sized(2.0) : 1,
+               {rim, state.testFlag(State_Sunken), state.testFlag(State_MouseOver)});
 }

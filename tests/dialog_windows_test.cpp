@@ -1,175 +1,170 @@
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
+#include <QClipboard>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QTimer>
+#include <QTextTable>
 #include <QTreeWidget>
 
 #include "app/desktop_shell.h"
-#include "dialogs/window/qt_dialogs.h"
-#include "script/headless_table.h"
+#include "core/start.h"
+#include "table/row_names.h"
+#include "table/window/key_bindings.h"
+#include "tests/visits.h"
 
 namespace {
 
-struct HelpShell final : SilentShell {
-    std::vector<std::string> opened;
-    int helps = 0;
-    void Open(const std::string& target) override { opened.push_back(target); }
-    void ShowHelpContents() override { ++helps; }
-    void CloseHelp() override { helps = 0; }
-};
+void ExpectPlace(const char* name, const QWidget& over) {
+    QWidget& window = *Shown(name);
+    ExpectAsTold(window, name);
+    EXPECT_LE((window.frameGeometry().center() - over.frameGeometry().center()).manhattanLength(), 2) << name;
+}
 
-// The real windows around a main window that is nothing but a window. A modal one that opens is handed, once, to the
-// visitor of its name.
-struct Around {
-    Around() {
-        main.setGeometry(300, 100, 327, 540);
-        main.show();
-        game.session.OpenedFromGame = true;
-        Poll();
-    }
-
-    void Poll() {
-        QTimer::singleShot(2, &main, [this] {
-            Poll();
-            QWidget* modal = QApplication::activeModalWidget();
-            if (!modal || !modal->isActiveWindow() || modal->property("visited").toBool()) return;
-            modal->setProperty("visited", true);
-            const QString name = modal->objectName().isEmpty() ? modal->metaObject()->className() : modal->objectName();
-            visited += name.toStdString() + ' ';
-            visitors.value(name, &QWidget::close)(*modal);
+// Starts of the program, with the table in the place of its window.
+struct Session : Visits {
+    Session() {
+        game.session.OpenedFromGame = false;
+        window.hide();
+        dialogs.SetShowMainWindow([this] {
+            log.push_back("table");
+            window.show();
         });
     }
-
-    QWidget main;
-    HeadlessTable t;
-    EventGate gate;
-    Art art;
-    std::optional<QtDialogs> windows{std::in_place, main, gate, art};
-    QtDialogs& dialogs = *windows;
-    HelpShell shell;
-    Game game{
-        Ports{t.view, t.timers, t.clock, t.random, t.effects, t.media, dialogs, t.scores, shell, t.store, t.parts}};
-    QHash<QString, std::function<void(QWidget&)>> visitors;
-    std::string visited;  // their names, each with a blank after it
+    void Start() {
+        window.hide();
+        game.session.PlayPressed = false;
+        const bool stays = ::Start(game);
+        EXPECT_EQ(stays, game.session.PlayPressed);
+    }
 };
 
-template <typename T = QAbstractButton>
-T& In(QWidget& window, const char* name) {
-    T* found = window.findChild<T*>(name);
-    if (!found) throw std::out_of_range(name);
-    return *found;
+TEST(Welcome, LeadsEverywhereByKeysAndByMouse) {
+    Session t;
+    t.Play(CasesOf("sessions.txt", "welcome"),
+           {{"start", [&] { t.Start(); }},
+            {"look", [] { ExpectAsTold(*Shown("frmWelcome"), "frmWelcome"); }},
+            {"look at the guide", [] { ExpectPlace("frmQuickStart", *Shown("frmWelcome")); }}});
 }
 
-QWidget* Shown(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == name && window->isVisible()) return window;
-    return nullptr;
-}
-
-void ExpectTexts(QWidget& window, const QString& name) {
-    QFile file(CASES "window_texts.txt");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    for (QString line; !file.atEnd();) {
-        line = QString(file.readLine()).trimmed();
-        if (line.section(' ', 0, 0) != name) continue;
-        auto& widget = In<QWidget>(window, line.section(' ', 1, 1).toLatin1());
-        const QString text = line.section(' ', 2);
-        EXPECT_EQ(widget.property("text").toString(), text);
-        const QString plain = text.contains(' ') ? text : QString(text).remove('&');
-        EXPECT_LE(widget.fontMetrics().horizontalAdvance(plain), widget.width()) << plain.toStdString();
-        EXPECT_TRUE(window.rect().contains(widget.geometry())) << line.toStdString();
-    }
-}
-
-TEST(Welcome, IsAsTold) {
-    Around a;
-    a.game.session.OpenedFromGame = false;
-    a.visitors["frmWelcome"] = [&](QWidget& window) {
-        EXPECT_EQ(window.size(), QSize(407, 351));
-        ExpectTexts(window, "frmWelcome");
-        for (const char* name : {"lblWebSite", "lblemail"}) {
-            auto& link = In(window, name);
-            QTest::keyClick(&link, Qt::Key_Return);
-            QTest::mouseClick(&link, Qt::LeftButton);
-            EXPECT_EQ(std::exchange(a.shell.opened, {}), std::vector(2, link.toolTip().toStdString()));
-        }
-        QTest::keyClick(&window, Qt::Key_F1);
-        EXPECT_EQ(a.shell.helps, 1);
-        QTest::keyClick(&window, Qt::Key_Q, Qt::AltModifier);
-        QTest::qWait(300);
-        auto& box = In(window, "Check1");
-        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(6, 8));
-        EXPECT_TRUE(a.game.settings.ShowSplash && !a.game.settings.ShowDialog);
-        box.click();
-        In(window, "cmdOptions").click();
-        EXPECT_TRUE(box.isChecked());
-        window.close();
+TEST(Welcome, SettlesTheNextStart) {
+    Session t;
+    t.describe = [&](const QWidget&) {
+        const GameSettings kept = t.store.LoadSettings();
+        return kept.ShowDialog || kept.ShowSplash
+                   ? QString("D").repeated(kept.ShowDialog) + QString("S").repeated(kept.ShowSplash)
+                   : "-";
     };
-    a.visitors["frmOptions"] = [&](QWidget& options) {
-        In(options, "optShowNone").click();
-        QTest::keyClick(&options, Qt::Key_Return);
+    const auto given = [&](bool splash) {
+        return [&t, splash] {
+            t.store.SaveSettings({.ShowDialog = true, .ShowSplash = splash});
+            t.Log();
+        };
     };
-    a.visitors["frmQuickStart"] = [&](QWidget& guide) {
-        EXPECT_TRUE(guide.isModal());
-        QTest::keyClick(&guide, Qt::Key_Return);
-    };
-    a.dialogs.frmWelcome(a.game);
-    EXPECT_EQ(a.visited, "frmWelcome frmQuickStart frmOptions ");
-    EXPECT_EQ(a.shell.helps, 0) << "the help closes with the window";
-}
-
-TEST(Welcome, EndsWithPlayOrExit) {
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        Around a;
-        a.visitors["frmWelcome"] = [key](QWidget& window) { QTest::keyClick(&window, key); };
-        a.dialogs.frmWelcome(a.game);
-        EXPECT_EQ(a.game.session.PlayPressed, key == Qt::Key_Return);
-    }
+    t.Play(CasesOf("starts.txt"),
+           {{"start", [&] { t.Start(); }}, {"given D", given(false)}, {"given DS", given(true)}});
 }
 
 TEST(Splash, EndsOnce) {
-    for (const bool pressed : {false, true}) {
-        Around a;
-        int tables = 0;
-        a.dialogs.SetShowMainWindow([&] { ++tables; });
-        a.dialogs.frmSplash(a.game);
-        QWidget* splash = Shown("frmSplash");
-        ASSERT_TRUE(splash && splash->size() == QSize(378, 210));
-        if (pressed) QTest::keyClick(splash, Qt::Key_Space);
-        EXPECT_EQ(tables, pressed ? 1 : 0);
-        QTest::qWait(700);
-        EXPECT_TRUE(splash->isHidden());
-        a.dialogs.UnloadSplash();
-        EXPECT_EQ(tables, 1);
-    }
+    Session t;
+    QElapsedTimer clock;
+    const auto open = [&] {
+        t.window.hide();
+        clock.start();
+        t.dialogs.frmSplash(t.game);
+        const QWidget& splash = *Shown("frmSplash");
+        const QSize screen = splash.screen()->size();
+        const QPoint place((screen.width() * 15 - 378) / 3, (screen.height() * 15 - 210 * 16) / 2);
+        EXPECT_EQ(splash.geometry(), QRect(place / 15, QSize(378, 210)));
+        EXPECT_TRUE(splash.windowFlags().testFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint));
+    };
+    t.Play(CasesOf("sessions.txt", "splash"), {{"open", open},
+                                               {"wait", [] {}},
+                                               {"it took its time", [&] { EXPECT_GE(clock.elapsed(), 599); }},
+                                               {"click", [] { QTest::mouseClick(Shown("frmSplash"), Qt::LeftButton); }},
+                                               {"rest", [] { QTest::qWait(700); }}});
+    t.dialogs.UnloadSplash();
+    EXPECT_EQ(t.Log(), "");
 }
 
 TEST(About, DisablesTheTableUntilItHasGone) {
-    for (const bool processEnds : {false, true}) {
-        Around a;
-        a.dialogs.frmAbout(a.game);
-        QWidget* about = Shown("frmAbout");
-        ASSERT_TRUE(about && QTest::qWaitForWindowActive(about));
-        EXPECT_TRUE(!a.main.isEnabled() && about->isEnabled() && !about->isModal());
-        EXPECT_EQ(about->size(), QSize(330, 352));
-        ExpectTexts(*about, "frmAbout");
-        a.dialogs.frmAbout(a.game);
-        EXPECT_FALSE(a.main.isEnabled());
-        if (processEnds)
-            a.windows.reset();
-        else
-            QTest::keyClick(Shown("frmAbout"), Qt::Key_Escape);
-        EXPECT_TRUE(a.main.isEnabled() && !Shown("frmAbout"));
+    Visits t;
+    t.Play(CasesOf("sessions.txt", "about"), {{"open", [&] { t.dialogs.frmAbout(t.game); }},
+                                              {"look", [&] { ExpectPlace("frmAbout", t.window); }},
+                                              {"menu", [&] { t.ClickEntry("mnuAbout"); }}});
+    std::optional<QtDialogs> others(std::in_place, t.window, t.gate, t.art);
+    others->frmAbout(t.game);
+    EXPECT_TRUE(!t.window.isEnabled() && Shown("frmAbout")->isEnabled());
+    others.reset();  // as the process does that ends
+    EXPECT_TRUE(t.window.isEnabled() && !Shown("frmAbout"));
+}
+
+double Luminance(const QColor& colour) {
+    const auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+template <typename Visit>
+void ForEachPart(const QTextDocument& text, Visit visit) {
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part) visit(part.fragment().charFormat(), block);
+}
+
+void ExpectPictures(const QTextDocument& text) {
+    ForEachPart(text, [&](const QTextCharFormat& format, const QTextBlock&) {
+        const QString picture = format.toImageFormat().name();
+        EXPECT_TRUE(picture.isEmpty() ||
+                    !text.resource(QTextDocument::ImageResource, picture).value<QPixmap>().isNull());
+    });
+}
+
+// Of a window with a text: its letters, and the paragraph from which it shows or in which something is selected.
+QString TextInView(const QWidget& window) {
+    const auto* view = window.findChild<QTextBrowser*>();
+    if (!view) return {};
+    const QTextCursor chosen = view->textCursor();
+    const QTextBlock block = (chosen.hasSelection() ? chosen : view->cursorForPosition({20, 5})).block();
+    return QString("%1 %2 <%3>")
+        .arg(view->document()->defaultFont().pixelSize())
+        .arg(block.text().left(20), chosen.selectedText());
+}
+
+// The guide, beside the table.
+struct Guide : Visits {
+    QWidget& Open() {
+        dialogs.frmQuickStart(game);
+        return *::Shown("frmQuickStart");
     }
+    QTextBrowser& view = In<QTextBrowser>(Open(), "RichTextBox1");
+};
+
+TEST(Guide, SaysWhatItIsToldInLightLetters) {
+    Guide t;
+    ExpectPlace("frmQuickStart", t.window);
+    const QTextDocument& text = *t.view.document();
+    QStringList found;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        const int heading = block.blockFormat().headingLevel();
+        const QString mark(heading == 0 ? 0 : heading == 1 ? 2 : 1, '*');
+        found << mark + block.text().replace(QChar::Nbsp, ' ').replace(QChar::ObjectReplacementCharacter, u'☺') + mark;
+    }
+    EXPECT_EQ(found.join('\n'), CasesOf("guide.txt").join('\n'));
+    ExpectPictures(text);
+    const QColor ground(0, 51, 102);
+    EXPECT_EQ(t.view.grab().toImage().pixelColor(5, 5), ground);
+    QSet<QRgb> inks;
+    bool bold = false;
+    ForEachPart(text, [&](const QTextCharFormat& format, const QTextBlock& block) {
+        const QBrush own = format.foreground();
+        const QColor ink = own == Qt::NoBrush ? t.view.palette().color(QPalette::Text) : own.color();
+        EXPECT_GE((Luminance(ink) + 0.05) / (Luminance(ground) + 0.05), 7) << block.text().toStdString();
+        inks << ink.rgb();
+        bold |= block.blockFormat().headingLevel() == 0 && format.fontWeight() > QFont::Normal;
+    });
+    EXPECT_TRUE(inks.size() == 3 && bold) << "headings and what is stressed stand out";
 }
 
 // The letters that a file was printed with, without blanks, pictures and the numbers of pages.
@@ -182,44 +177,39 @@ QString PdfText(const QString& file) {
     return Letters(QString::fromUtf8(reader.readAllStandardOutput()));
 }
 
-TEST(Guide, PrintsToAFileWhereThereIsNoPrinter) {
-    const QTemporaryDir folder;
-    Around a;
-    a.dialogs.frmQuickStart(a.game);
-    QWidget* guide = Shown("frmQuickStart");
-    ASSERT_TRUE(guide && !guide->isModal());
-    a.dialogs.frmQuickStart(a.game);
-    EXPECT_EQ(Shown("frmQuickStart"), guide) << "the open one comes to the front";
-    auto& view = In<QTextBrowser>(*guide, "RichTextBox1");
-    const auto print = [&](const QString& to) {
-        a.visitors["QPrintDialog"] = [to](QWidget& dialog) {
-            In<QLineEdit>(dialog, "filename").setText(to);
-            if (to.isEmpty())
-                dialog.close();
-            else
-                dynamic_cast<QDialog&>(dialog).accept();
-        };
-        a.visited.clear();
-        In(*guide, "cmdPrint").click();
-        return a.visited;
+TEST(Guide, IsReadAndPrintedBesideTheTable) {
+    Visits t;
+    t.describe = TextInView;
+    const auto select = [](const char* words) {
+        return [words] { EXPECT_TRUE(In<QTextBrowser>(*Shown("frmQuickStart"), "RichTextBox1").find(words)); };
     };
-    const QString file = folder.filePath("guide.pdf");
-    EXPECT_EQ(print(file), "QPrintDialog ");
-    EXPECT_EQ(PdfText(file), Letters(view.toPlainText()));
-    EXPECT_EQ(print(""), "QPrintDialog QMessageBox ") << "cancelled";
-    view.find("Free Column");
-    print(file);
-    EXPECT_EQ(PdfText(file), "FreeColumn");
-    EXPECT_EQ(print("/proc/guide.pdf"), "QPrintDialog QMessageBox ") << "cannot be written";
-    a.dialogs.UnloadQuickStart();
-    EXPECT_FALSE(Shown("frmQuickStart"));
+    const auto to = [&](const QString& file) {
+        return [file, &t] {
+            QWidget& dialog = *QApplication::activeModalWidget();
+            In<QLineEdit>(dialog, "filename").setText(QDir(t.folder.path()).absoluteFilePath(file));
+            dynamic_cast<QDialog&>(dialog).accept();
+        };
+    };
+    t.Play(CasesOf("sessions.txt", "guide"), {{"open", [&] { t.dialogs.frmQuickStart(t.game); }},
+                                              {"select Free Column", select("Free Column")},
+                                              {"select Thank You", select("Thank You")},
+                                              {"to all.pdf", to("all.pdf")},
+                                              {"to words.pdf", to("words.pdf")},
+                                              {"to nowhere", to("/proc/guide.pdf")},
+                                              {"unload", [&] { t.dialogs.UnloadQuickStart(); }}});
+    EXPECT_EQ(QApplication::clipboard()->text(), "Free Column");
+    EXPECT_EQ(PdfText(t.folder.filePath("all.pdf")),
+              Letters(CasesOf("guide.txt").join("")).remove(QRegularExpression("[*☺]")));
+    EXPECT_EQ(PdfText(t.folder.filePath("words.pdf")), "FreeColumn");
 }
 
+// The help of a file that holds this text, or of none.
 struct Help {
     explicit Help(const QByteArray& text) {
-        if (text.isNull()) return;
         QFile file(folder.filePath("LCHelp23.hlp"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        EXPECT_TRUE(text.isNull() || (file.open(QIODevice::WriteOnly) && file.write(text) == text.size()));
+        file.close();
+        shell.ShowHelpContents();
     }
 
     QTemporaryDir folder;
@@ -236,53 +226,67 @@ QByteArray HelpText() {
 TEST(Help, ShowsNothingOfAFileThatIsNotWhole) {
     const QByteArray whole = HelpText();
     for (const QByteArray& text : {QByteArray(), QByteArray(""), whole.left(whole.size() / 2), whole + '\xFF'}) {
-        Help help(text);
-        help.shell.ShowHelpContents();
+        const Help help(text);
         EXPECT_FALSE(Shown("Help"));
     }
 }
 
-TEST(Help, ItsLinksLeadAndKeysFind) {
-    Help help(HelpText());
-    help.shell.ShowHelpContents();
-    QWidget& window = *Shown("Help");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    auto& view = In<QTextBrowser>(window, "text");
-    const QTextDocument& text = *view.document();
-    EXPECT_TRUE(text.toPlainText().contains("/where/the <scores> lie"));
-    QStringList links, anchors;
-    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            const QTextCharFormat format = part.fragment().charFormat();
-            anchors << format.anchorNames();
-            if (!format.anchorHref().isEmpty()) links << format.anchorHref().mid(1);
-            const QUrl picture = format.toImageFormat().name();
-            EXPECT_TRUE(picture.isEmpty() || !text.resource(QTextDocument::ImageResource, picture).isNull());
+// The keys of the window, those of its menus and the few that are neither.
+QStringList KeysOfTheTable() {
+    QStringList keys = QString("Enter Space F10 Alt+G Alt+T Alt+H Ctrl+plus Ctrl+minus Ctrl+0 Ctrl+wheel").split(' ');
+    const Visits t;
+    for (const QAction* entry : t.window.findChildren<QAction*>())
+        if (!entry->shortcut().isEmpty()) keys << entry->shortcut().toString();
+    for (unsigned held = 0; held < 8; ++held)
+        for (int key = 0; key < 0x200; ++key) {
+            const auto modifiers = Qt::KeyboardModifiers::fromInt(held * Qt::ShiftModifier);
+            const auto code = static_cast<Qt::Key>(key < 0x100 ? key : Qt::Key_Escape + key - 0x100);
+            if (PlayerKeyOf(QKeyEvent(QEvent::KeyPress, code, modifiers)))
+                keys << QKeySequence(modifiers | code).toString().replace("Return", "Enter");
         }
-    auto& contents = In<QTreeWidget>(window, "contents");
-    for (QTreeWidgetItemIterator entry(&contents); *entry; ++entry) links << (*entry)->data(0, Qt::UserRole).toString();
-    EXPECT_GT(links.size(), 60);
-    for (const QString& link : links) EXPECT_TRUE(anchors.contains(link)) << link.toStdString();
-    const auto firstShown = [&] { return view.cursorForPosition({20, 5}).block().text(); };
-    const auto undo = contents.findItems("Undo and redo", Qt::MatchExactly | Qt::MatchRecursive);
-    ASSERT_EQ(undo.size(), 1);
-    contents.scrollToItem(undo[0]);
-    QTest::mouseClick(contents.viewport(), Qt::LeftButton, {}, contents.visualItemRect(undo[0]).center());
-    EXPECT_EQ(firstShown(), "Undo and redo");
-    QTest::keyClick(&window, Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(firstShown(), "Welcome to Lucky Cup");
-    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
-    auto& find = In<QLineEdit>(window, "find");
-    ASSERT_TRUE(find.hasFocus());
-    QTest::keyClicks(&find, "fanfare");
-    std::vector<int> found;
-    for (int i = 0; i < 8; ++i) {
-        QTest::keyClick(&find, i % 2 ? Qt::Key_F3 : Qt::Key_Return);
-        found.push_back(view.textCursor().position());
+    keys.removeDuplicates();
+    keys.sort();
+    return keys;
+}
+
+TEST(Help, TellsOfEverythingAndItsLinksLead) {
+    const Help help(HelpText());
+    QWidget& window = *Shown("Help");
+    const QTextDocument& text = *In<QTextBrowser>(window, "text").document();
+    EXPECT_TRUE(!window.isModal() && text.toPlainText().contains("/where/the <scores> lie"));
+    ExpectPictures(text);
+    QStringList links, anchors;
+    ForEachPart(text, [&](const QTextCharFormat& format, const QTextBlock&) {
+        anchors << format.anchorNames();
+        if (!format.anchorHref().isEmpty()) links << format.anchorHref();
+    });
+    QString chapters;
+    for (QTreeWidgetItemIterator entry(&In<QTreeWidget>(window, "contents")); *entry; ++entry) {
+        links << '#' + (*entry)->data(0, Qt::UserRole).toString();
+        chapters += (*entry)->text(0) + ", ";
     }
-    EXPECT_TRUE(found[0] < found[1] && std::ranges::count(found, found[0]) > 1) << "and round again";
-    QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(Shown("Help"));
+    EXPECT_GT(links.size(), 60);
+    for (const QString& link : links)
+        EXPECT_TRUE(link.startsWith('#') && anchors.contains(link.mid(1))) << link.toStdString();
+    for (const char* row : rowNames) EXPECT_TRUE(chapters.contains(row)) << row;
+    for (const char* column : {"Down, the", "Up, the", "Free, the", "Announce, the", "Announcing, step by step"})
+        EXPECT_TRUE(chapters.contains(column)) << column;
+    const QTextTable* keys = text.find("Holds or releases that die").currentTable();
+    ASSERT_TRUE(keys);
+    QString told;
+    for (int row = 1; row < keys->rows(); ++row)
+        told += (row > 1 ? ", " : "") + keys->cellAt(row, 0).firstCursorPosition().block().text();
+    QStringList all = told.replace("1 to 6", "1, 2, 3, 4, 5, 6").replace(" or ", ", ").split(", ");
+    all.sort();
+    EXPECT_EQ(all, KeysOfTheTable());
+}
+
+TEST(Help, IsReadByMouseAndKeys) {
+    Visits t;
+    t.describe = TextInView;
+    Help help(HelpText());
+    t.Play(CasesOf("sessions.txt", "help"),
+           {{"open", [&] { help.shell.ShowHelpContents(); }}, {"close the help", [&] { help.shell.CloseHelp(); }}});
 }
 
 }  // namespace

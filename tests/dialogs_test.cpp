@@ -1,7 +1,4 @@
-#include <QLineEdit>
-#include <QSlider>
-
-#include "tests/window_table.h"
+#include "tests/visits.h"
 
 namespace {
 
@@ -23,43 +20,22 @@ TEST(TheWinerIs, NamesTheWinner) {
     t.dialogs.frmTheWinerIs(t.game);
 }
 
-// Opens Options, checks what it shows, does something to it and closes it.
-void VisitOptions(WindowTable& t, const std::function<void(QWidget&)>& visit) {
-    t.answer = visit;
-    t.game.session.OpenedFromGame = true;
-    t.dialogs.frmOptions(t.game);
-}
-
-void Press(QWidget& dialog, const char* button) { dialog.findChild<QAbstractButton*>(button)->click(); }
-
-// What the scripts of the whole window do not touch.
-TEST(Options, HaveTheirSizeAndEndByTheirKeys) {
-    WindowTable t(VariantOf(5));
+// What the scripts of the whole window do not touch: its keys, and that the volume is heard at once.
+TEST(Options, EndByTheirKeys) {
+    Visits t(VariantOf(5));
     t.game.settings.BGMusicEnabled = true;
-    const auto setVolume = [](QWidget& dialog, int volume) { dialog.findChild<QSlider*>()->setValue(volume); };
-    VisitOptions(t, [&](QWidget& dialog) {
-        EXPECT_EQ(dialog.size(), QSize(379, 517));
-        setVolume(dialog, 900);
-        EXPECT_EQ(t.game.settings.BGMusicVolume, 900) << "is heard at once";
-        for (const char* name : {"opt2Players", "optShowSplash"}) Press(dialog, name);
-        EXPECT_FALSE(dialog.findChild<QWidget*>("chkShowStatusBar")->isEnabled());
-        dialog.findChild<QLineEdit*>("txtName2")->setText(QString::fromUtf8("Ж & <b>"));
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    const GameSettings wanted = t.game.settings;
-    EXPECT_TRUE(wanted.ShowSplash && !wanted.ShowDialog && wanted.NumberOfPlayers == 2 && wanted.Player2 == "Ж & <b>");
-    VisitOptions(t, [&](QWidget& dialog) {
-        Press(dialog, "optYamb");
-        setVolume(dialog, 3);
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    EXPECT_EQ(t.game.settings, wanted);
-    EXPECT_FALSE(t.game.session.SettingsChanged);
-    VisitOptions(t, [&](QWidget& dialog) {
-        setVolume(dialog, 3);
-        dialog.close();  // is not Cancel
-    });
-    EXPECT_EQ(t.game.settings.BGMusicVolume, 3);
+    t.describe = [&](const QWidget& front) {
+        const auto* bar = front.findChild<QAbstractButton*>("chkShowStatusBar");
+        const GameSettings& now = t.game.settings;
+        return QString("%1 %2%3 %4 %5")
+            .arg(now.NumberOfPlayers)
+            .arg(now.ShowSplash ? "S" : "-", bar && !bar->isEnabled() ? "B" : "-")
+            .arg(now.BGMusicVolume)
+            .arg(QString::fromStdString(now.Player2));
+    };
+    t.Play(CasesOf("sessions.txt", "options"), {{"open", [&] { t.dialogs.frmOptions(t.game); }},
+                                                {"look", [] { ExpectAsTold(*Shown("frmOptions"), "frmOptions"); }}});
+    EXPECT_EQ(t.game.settings.NumberOfColumns, 1) << "cancelled";
 }
 
 }  // namespace

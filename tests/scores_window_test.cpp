@@ -1,141 +1,182 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
+#include <QScrollBar>
 #include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QWheelEvent>
+#include <QtEndian>
 
 #include "dialogs/window/frm_scores2.h"
-#include "script/headless_table.h"
+#include "tests/visits.h"
 
 namespace {
 
 // One record as it lies in a file.
-QByteArray Slot(const QByteArray& name, const QByteArray& score, const QByteArray& date) {
-    return name.leftJustified(10, ' ') + score + date.leftJustified(10, ' ');
+QByteArray Slot(const QByteArray& name, qint32 score, const QByteArray& date) {
+    QByteArray number(4, '\0');
+    qToLittleEndian(score, number.data());
+    return name.leftJustified(10, ' ') + number + date.leftJustified(10, ' ');
 }
-const QByteArray unusedSlot = Slot(QByteArray(1, '\0'), "\xF1\xD8\xFF\xFF", QByteArray(1, '\0'));
-const QByteArray annSlot = Slot("Ann", QByteArray::fromHex("e8030000"), "2/1/2003");
 
-// A program's folder with score files, and the window over another one.
-struct HallWindow {
-    explicit HallWindow(int position = 0) {
-        QDir(folder.path()).mkdir("scores");
-        table.UseFolder(folder.path().toStdString());
-        GameSession& session = table.game.session;
-        session.OpenedFromGame = true;
-        session.ShowScoreResult = position != 0;
-        session.LastScorePosition = position;
-        owner.setGeometry(100, 50, 330, 560);
-        owner.show();
+// Files that fail, where they are not those of the folder.
+struct FailingScores final : SilentScores {
+    int failure;
+    explicit FailingScores(int number) : failure(number) {}
+    bool TopScoreFileExists(int) override { return true; }
+    ScoreTable LoadTopScores(int) override { throw ScoreFileError(failure, "No luck", "F"); }
+    void DeleteTopScores(int) override { throw ScoreFileError(failure, "No luck", "F"); }
+};
+
+// The window over the table, in a folder whose files 1, 3 and 4 hold one score each, that of their number.
+struct Hall : Visits {
+    // What it opens with: a variant ("v0" to "v3"), the place of a result ("p20", in silence "p20s", in a Redo "p20r"),
+    // or files that fail ("e53").
+    void Open(const QString& with) {
+        const int number = QString(with).remove(QRegularExpression("[^-\\d]")).toInt();
+        const int variant = with.startsWith('v') ? number : 0;
+        game.settings.NumberOfDice = variant & 1 ? 4 : 5;
+        game.settings.NumberOfColumns = variant & 2 ? 1 : 4;
+        GameSession& session = game.session;
+        session.ShowScoreResult = with.startsWith('p');
+        std::tie(session.LastScorePosition, session.LastFinalScore) = std::tuple(number, -12);
+        std::tie(session.SoundOn, session.RedoInProgress) = std::tuple(!with.endsWith('s'), with.endsWith('r'));
+        session.AppPath = "folder/";
+        if (with.startsWith('e')) scores.Keep(std::make_unique<FailingScores>(number));
+        hall.reset();
+        hall = std::make_unique<frmScores2>(window, game, art);
+        hall->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(hall.get()));
     }
     QString Path(int number) const { return folder.filePath(QString("scores/scores%1.dat").arg(number)); }
     void Write(int number, const QByteArray& bytes) const {
         QFile file(Path(number));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
-    void Open() {
-        window = std::make_unique<frmScores2>(owner, table.game, art);
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-    template <typename Control>
-    Control& Find(const char* name) const {
-        return *window->findChild<Control*>(name);
-    }
-    QTableView& List() const { return Find<QTableView>("LVScores"); }
-    QTabBar& Strip() const { return *Find<QTabWidget>("SSTab1").tabBar(); }
-    QString Cell(int row, int column) const { return List().model()->index(row, column).data().toString(); }
-    void ClickTab(int tab) const {
-        const QPoint at = Strip().mapTo(window.get(), Strip().tabRect(tab).center());
-        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, at);
-    }
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
-        QTest::keyClick(window->windowHandle(), key, modifiers);
+    QTableView& List() const { return In<QTableView>(*hall, "LVScores"); }
+    QTabBar& Strip() const { return *In<QTabWidget>(*hall, "SSTab1").tabBar(); }
+    QModelIndex Index(int row, int column) const { return List().model()->index(row, column); }
+    QString Cell(int row, int column) const { return Index(row, column).data().toString(); }
+    QPoint Middle(int row, int column) const { return List().visualRect(Index(row, column)).center(); }
+
+    // Tab, file that is listed (- for an empty table, ! for none), whether Clear can be pressed, selected row and
+    // files.
+    QString State() const {
+        const int rows = List().model()->rowCount();
+        EXPECT_TRUE((rows == 20 || rows == 0) && List().model()->columnCount() == 4);
+        for (int row = 0; row < rows; ++row) EXPECT_EQ(Cell(row, 0), ' ' + QString::number(row + 1));
+        const QModelIndexList selected = List().selectionModel()->selectedRows();
+        QString files;
+        for (int number = 1; number <= 4; ++number)
+            if (QFile::exists(Path(number))) files += QString::number(number);
+        return QString("%1 %2 %3 %4 %5%6")
+            .arg(Strip().currentIndex())
+            .arg(rows == 0              ? "!"
+                 : Cell(0, 2).isEmpty() ? "-"
+                                        : Cell(0, 2),
+                 In(*hall, "cmdClearTable").isEnabled() ? "on" : "off")
+            .arg(selected.isEmpty() ? 0 : selected[0].row() + 1)
+            .arg(files, List().showGrid() ? " grid" : "");
     }
 
-    QTemporaryDir folder;
-    HeadlessTable table;
-    Art art;
-    QWidget owner;
-    std::unique_ptr<frmScores2> window;
+    std::unique_ptr<frmScores2> hall;
 };
 
-TEST(ScoresWindow, ShowsWhatTheFileHolds) {
-    struct {
-        QByteArray slot;
-        QStringList cells;
-    } const told[] = {
-        {Slot("Zo\xEB & <b>", QByteArray::fromHex("39300000"), "23.11.2026"),
-         {" 1", "Zoë & <b>", "12345", "23.11.2026"}},
-        {Slot("a\nb\tc\r\x01", QByteArray::fromHex("00000080"), "9999999999"),
-         {" 2", "a b c", "-2147483648", "9999999999"}},
-        {unusedSlot, {" 3", "", "", ""}},
-        {annSlot, {" 4", "Ann", "1000", "2/1/2003"}},
-    };
-    for (int position : {0, 20}) {
-        HallWindow hall(position);
-        QByteArray bytes(20 * 24, '\xFF');
-        for (int row = 0; row < 4; ++row) bytes.replace(row * 24, 24, told[row].slot);
-        hall.Write(1, bytes);
-        hall.Open();
-        EXPECT_EQ(hall.window->size(), QSize(433, position ? 540 : 497));
-        EXPECT_EQ(hall.Find<QWidget>("lblScore").isVisible(), position == 20);
-        EXPECT_EQ(hall.List().selectionModel()->isRowSelected(19), position == 20);
-        ASSERT_EQ(hall.List().model()->rowCount(), 20);
-        for (int row = 0; row < 4; ++row) {
-            for (int column = 0; column < 4; ++column)
-                EXPECT_EQ(hall.Cell(row, column).trimmed(), told[row].cells[column].trimmed());
+void TurnWheel(QWidget& control) {
+    const QPointF middle = control.rect().center();
+    QWheelEvent wheel(middle, control.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &wheel);
+}
+
+TEST(HallOfFame, FollowsItsRules) {
+    Hall h;
+    h.describe = [&](const QWidget& front) { return &front == h.hall.get() ? h.State() : QString(); };
+    QHash<QString, std::function<void()>> acts{{"wheel", [&] { TurnWheel(h.Strip()); }},
+                                               {"strip", [&] { h.Strip().setFocus(); }}};
+    for (const char* with :
+         {"v0", "v1", "v2", "v3", "p1", "p20", "p20s", "p20r", "p21", "p-1", "p-1s", "p-1r", "e53", "e70"})
+        acts[with] = [&h, with] {
+            for (int number : {1, 3, 4}) h.Write(number, Slot("Ann", number, "2/1/2003"));
+            h.Open(with);
+        };
+    for (int i = 0; i < 4; ++i) {
+        acts[QString("tab%1").arg(i)] = [&h, i] { ClickAt(h.Strip(), h.Strip().tabRect(i).center()); };
+        acts[QString("gone%1").arg(i + 1)] = [&h, i] { QFile::remove(h.Path(i + 1)); };
+    }
+    h.Play(CasesOf("hall_of_fame.txt"), acts);
+}
+
+TEST(HallOfFame, LaysOutBothWays) {
+    for (int position : {0, -1, 20}) {
+        Hall h;
+        h.Open(position ? QString("p%1").arg(position) : "v0");
+        ExpectAsTold(*h.hall, position ? "frmScores2 result" : "frmScores2 viewer");
+        const auto& result = In<QLabel>(*h.hall, "lblScore");
+        EXPECT_EQ(result.isVisible(), position != 0);
+        EXPECT_TRUE(QRect(QPoint(), result.size()).contains(QRect(QPoint(), result.sizeHint())));
+        EXPECT_EQ(result.text(),
+                  position == 0 ? ""
+                  : position == 20
+                      ? "  Your score of  -12 points was good enough to get on the \n   top scores table at "
+                        "position #20."
+                      : "  Your score of  -12 points was not good enough to get on the  \n   top scores "
+                        "table.");
+        EXPECT_LE(h.Strip().sizeHint().width(), In<QWidget>(*h.hall, "SSTab1").width());
+        EXPECT_FALSE(h.List().horizontalScrollBar()->isVisible() || h.List().verticalScrollBar()->isVisible());
+        for (int column = 0; column < 4; ++column) {
+            constexpr int widths[] = {800, 2200, 1550, 1650};
+            EXPECT_NEAR(h.List().columnWidth(column), widths[column] / 15, 1);
+            const auto icon = h.List().model()->headerData(column, Qt::Horizontal, Qt::DecorationRole);
+            EXPECT_FALSE(icon.value<QPixmap>().isNull());
         }
-        EXPECT_TRUE(hall.List().rect().contains(hall.List().visualRect(hall.List().model()->index(19, 3))));
     }
 }
 
-TEST(ScoresWindow, ChangesTabsByMouseAndKeyboard) {
-    HallWindow hall;
-    hall.Write(1, annSlot);
-    hall.Open();
-    const auto shows = [&](int tab, const QString& name) {
-        EXPECT_EQ(std::pair(hall.Strip().currentIndex(), hall.Cell(0, 1).trimmed()), std::pair(tab, name));
-    };
-    shows(0, "Ann");
-    hall.Key(Qt::Key_Tab, Qt::ControlModifier);
-    hall.Key(Qt::Key_Y, Qt::AltModifier);
-    shows(2, "Ann");  // the keyboard changes the tab only
-    hall.ClickTab(2);
-    shows(2, "");
-    hall.Key(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
-    hall.ClickTab(0);
-    shows(0, "Ann");
+// What ten bytes read as: up to a NUL, on one line.
+QString TextOf(const QByteArray& bytes) {
+    QString text = QString::fromLatin1(bytes.left(bytes.indexOf('\0') < 0 ? 10 : bytes.indexOf('\0')));
+    for (QChar& c : text)
+        if (c < ' ') c = ' ';
+    return text.trimmed();
 }
 
-TEST(ScoresWindow, ClearsTheTableOfTheTab) {
-    HallWindow hall(1);
-    for (int number : {1, 4}) hall.Write(number, annSlot);
-    hall.Open();
-    auto& clear = hall.Find<QPushButton>("cmdClearTable");
-    hall.Key(Qt::Key_C, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !clear.isEnabled(); }));
-    EXPECT_TRUE(hall.Cell(0, 1).isEmpty() && !hall.List().selectionModel()->hasSelection());
-    EXPECT_FALSE(QFile::exists(hall.Path(1)));
-    hall.ClickTab(3);
-    EXPECT_TRUE(clear.isEnabled() && hall.Cell(0, 1) == "Ann");
+TEST(HallOfFame, ShowsTheBytesOfItsFile) {
+    const QByteArray names[] = {"Zo\xEB & <b>", "a\nb\tc\r\x01", "WWWWWWWWWW", QByteArray("Al\0x", 4), "",
+                                "&&&&&&&&&&"};
+    constexpr qint32 scores[] = {12345, -1, INT32_MIN, INT32_MAX, 0, -9998};
+    QByteArray whole;
+    for (int row = 0; row < 20; ++row)
+        whole += row == 6 ? Slot(QByteArray(1, '\0'), -9999, QByteArray(1, '\0'))
+                          : Slot(names[row % 6], scores[row % 6] - row / 6, row % 2 ? "9999999999" : "23.11.2026");
+    whole += QByteArray("\1\0\0\0", 4);
+    for (const qsizetype size : {484, 480, 2000, 479, 100, 23, 7, 0}) {
+        Hall h;
+        h.Write(1, whole.leftJustified(size, '\xFF', true));
+        h.Open("p20");
+        const QByteArray empty = Slot("", -9999, "");
+        for (int row = 0; row < 20; ++row) {
+            const QByteArray told = whole.left(size).mid(24 * row, 24), slot = told + empty.mid(told.size());
+            const QByteArray bytes = told.size() < 14 ? empty : slot;  // cut before its score is whole
+            const auto score = qFromLittleEndian<qint32>(bytes.data() + 10);
+            const QString cells[] = {' ' + QString::number(row + 1), TextOf(bytes.left(10)),
+                                     score == -9999 ? "" : QString::number(score), TextOf(bytes.mid(14))};
+            for (int column = 0; column < 4; ++column)
+                EXPECT_EQ(column ? h.Cell(row, column).trimmed() : h.Cell(row, 0), cells[column]) << size << ' ' << row;
+            EXPECT_EQ(h.List().rowHeight(row), 18);
+        }
+        EXPECT_TRUE(h.List().rect().contains(h.List().visualRect(h.Index(19, 3)))) << "the row of the score is in view";
+    }
 }
 
-TEST(ScoresWindow, KeepsTheGridLinesHoweverItCloses) {
-    HallWindow hall;
-    bool grid = hall.table.game.settings.ShowGridLines;
-    for (const bool byKey : {true, false}) {
-        hall.Open();
-        EXPECT_EQ(hall.List().showGrid(), grid);
-        hall.Find<QCheckBox>("Check1").click();
-        grid = !grid;
-        EXPECT_TRUE(hall.List().showGrid() == grid && hall.table.game.settings.ShowGridLines != grid);
-        if (byKey)
-            hall.Key(Qt::Key_Escape);
-        else
-            hall.window->close();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return hall.table.game.settings.ShowGridLines == grid; }));
+// Without a result a row is selected by its first cell alone, with one it is whole, in all of its width.
+TEST(HallOfFame, SelectsCellsOrRows) {
+    for (int position : {0, 2}) {
+        Hall h;
+        h.Open(position ? "p2" : "v0");
+        for (int column : {1, 0}) {
+            ClickAt(*h.List().viewport(), h.Middle(7, column));
+            EXPECT_EQ(h.List().selectionModel()->selectedIndexes().size(), position ? 4 : 1 - column);
+        }
+        const QPoint last = h.Middle(7, 3) + h.List().viewport()->pos();
+        EXPECT_EQ(h.List().grab().toImage().pixelColor(last),
+                  position ? h.List().palette().color(QPalette::Highlight) : QColor(239, 255, 210));
     }
 }
 

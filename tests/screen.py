@@ -104,9 +104,9 @@ class Screen:
     def picture(self, x, y, width, height):
         return [self.row(x, y + line, width) for line in range(height)]
 
-    def press(self, window, key):
-        """Gives the window the focus, which no window manager does here, and types the key."""
-        self.xdotool("windowfocus", "--sync", window, "key", key)
+    def press(self, window, *keys):
+        """Gives the window the focus, which no window manager does here, and types the keys."""
+        self.xdotool("windowfocus", "--sync", window, "key", "--delay", "50", *keys)
 
     def ask_to_close(self, window):
         """What a window manager sends when the close box is pressed. (xdotool can only destroy a window.)"""

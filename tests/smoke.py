@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
 """smoke.py PROGRAM: starts the real program on an X display of its own, as a new user, who meets the welcome window and
-leaves it, then plays from it with its box checked, rolls the dice with Enter and closes the window as a desktop would;
-at the next start a picture stands before the table. Expects clean ends: status 0 and nothing on stderr."""
+leaves it, then plays from it with its box checked, a whole game of Yahtzee by keyboard and on into the hall of fame; at
+the next start a picture stands before the table. Expects clean ends: status 0 and nothing on stderr."""
 
+import pathlib
+import shutil
+import struct
 import sys
 import tempfile
 import time
@@ -12,7 +15,12 @@ from screen import Screen, wait_for
 CLOCK_ROWS = 40  # at the bottom of the window, where the picture changes by itself
 CHECK_BOX = 32, 308  # in the welcome window
 SPLASH = (378, 210)
-WELCOME, TABLE, HELP = "^Welcome to LuckyCup", r"^Lucky Cup 2\.3$", "^Lucky Cup Help$"
+BOXES = 13
+RECORD = "<10si10s"  # name, score and date
+MARK, MARK_COLOUR = (300, 58), b"\xb8\x63\x35"  # in the first row of the hall of fame
+WELCOME, OPTIONS, GUIDE, TABLE, HELP = ("^Welcome to LuckyCup", "^Options$", "^Quick Start$", r"^Lucky Cup 2\.3$",
+                                        "^Lucky Cup Help$")
+END, HALL_OF_FAME = "^Finish Game", "Hall of Fame$"
 
 
 class Start:
@@ -31,6 +39,9 @@ class Start:
 
         return wait_for(title, find)
 
+    def wait_for_end_of(self, title):
+        wait_for(f"the end of {title}", lambda: not self.screen.find_window(title))
+
     def wait_for_end(self):
         def ended():
             if self.program.poll() is None and (question := self.screen.find_window("^Confirm$")):
@@ -41,22 +52,21 @@ class Start:
         if self.program.returncode != 0:
             raise RuntimeError(f"the program ended with status {self.program.returncode}")
 
-    def roll(self, window):
-        def picture():
-            x, y, width, height = self.screen.place(window)
-            return self.screen.picture(x, y, width, height - CLOCK_ROWS)
+    def picture(self, window):
+        x, y, width, height = self.screen.place(window)
+        return self.screen.picture(x, y, width, height - CLOCK_ROWS)
 
-        def stands_still():
-            before = picture()
-            time.sleep(0.5)
-            return picture() == before
+    def settle(self, window, pause):
+        """Waits until the window has not changed for so long, and returns its picture."""
+        while (before := self.picture(window)) != (time.sleep(pause) or self.picture(window)):
+            pass
+        return before
 
-        self.screen.xdotool("windowfocus", "--sync", window)
-        wait_for("a picture that stands still", stands_still)
-        table = picture()
-        self.screen.press(window, "Return")
-        wait_for("the roll to show", lambda: picture() != table)
-        wait_for("the end of the roll", stands_still)
+    def play(self, window, *keys):
+        """Presses keys that must change the picture."""
+        table = self.settle(window, 0.2)
+        self.screen.press(window, *keys)
+        wait_for(f"what {keys} change", lambda: self.picture(window) != table)
 
 
 def leave_the_welcome(start):
@@ -66,16 +76,47 @@ def leave_the_welcome(start):
 
 def play_from_the_welcome(start):
     welcome = start.window(WELCOME)
+    choose_yahtzee(start, welcome)
     x, y, _, _ = start.screen.place(welcome)
     start.screen.click(x + CHECK_BOX[0], y + CHECK_BOX[1])
+    start.screen.press(welcome, "F1")
+    start.window(HELP)
     start.screen.press(welcome, "Return")
     table = start.window(TABLE)
-    start.roll(table)
+    start.wait_for_end_of(HELP)
     meet_the_running_game(start)
+    play_a_game(start, table)
     start.screen.press(table, "F1")
-    start.window(HELP)  # goes with the table
+    start.window(HELP)
+    start.screen.press(table, "alt+h", "q")
+    start.window(GUIDE)  # both go with the table
     start.screen.ask_to_close(table)
     start.wait_for_end()
+
+
+def choose_yahtzee(start, welcome):
+    start.screen.press(welcome, "alt+o")
+    options = start.window(OPTIONS)
+    start.play(options, "alt+y")
+    start.settle(options, 0.2)  # the button is seen to be pressed first
+    start.screen.press(options, "Return")
+    start.wait_for_end_of(OPTIONS)
+
+
+def play_a_game(start, table):
+    for _ in range(BOXES):
+        start.play(table, "Return")
+        start.play(table, "Down", "ctrl+Return")
+    start.screen.press(start.window(END), "Return")
+    hall = start.window(HALL_OF_FAME)
+    scores = pathlib.Path(start.program.args[0]).parent / "scores/scores3.dat"
+    name, score, _ = struct.unpack_from(RECORD, scores.read_bytes())
+    if name != b"Player 1  " or score < 5:
+        raise RuntimeError(f"the hall of fame holds {score} of {name}")
+    x, y, _, _ = start.screen.place(hall)
+    wait_for("the mark on the first place", lambda: start.screen.row(x + MARK[0], y + MARK[1], 1)[:3] == MARK_COLOUR)
+    start.screen.press(hall, "Escape")
+    start.wait_for_end_of(HALL_OF_FAME)
 
 
 def meet_the_running_game(start):
@@ -96,13 +137,25 @@ def meet_the_splash(start):
     start.wait_for_end()
 
 
+def own_copy(program, folder):
+    """The program in a folder of its own, for nobody else's scores; what is large is shared."""
+    for part in pathlib.Path(program).parent.iterdir():
+        if part.is_file():
+            shutil.copy2(part, folder)
+        elif part.name != "scores":
+            pathlib.Path(folder, part.name).symlink_to(part)
+    pathlib.Path(folder, "scores").mkdir()
+    return pathlib.Path(folder, pathlib.Path(program).name)
+
+
 def main():
-    with tempfile.TemporaryFile() as errors, Screen() as screen:
+    with tempfile.TemporaryFile() as errors, tempfile.TemporaryDirectory() as folder, Screen() as screen:
+        program = own_copy(sys.argv[1], folder)
         home = screen.new_home()
         failure = None
         try:
             for visit in (leave_the_welcome, play_from_the_welcome, meet_the_splash):
-                visit(Start(screen, sys.argv[1], home, errors))
+                visit(Start(screen, program, home, errors))
         except (RuntimeError, TimeoutError) as error:
             failure = str(error)
         errors.seek(0)

@@ -7,30 +7,18 @@
 
 namespace {
 
-// What a player does in frmWelcome: P play, X leave, c and u change the check box, and the options closed with OK and
-// "None" (n), "Splash Screen" (s), "Dialog Screen" (d), or cancelled (x).
+// The windows of which one comes first, or closes at the end. The player of the first one plays or leaves.
 struct FirstWindows final : HeadlessDialogs {
     using HeadlessDialogs::HeadlessDialogs;
 
     EventLog windows;
-    std::string visit;
+    bool changes = false, plays = false;
 
     void frmWelcome(Game& game) override {
         windows.push_back("welcome");
         WelcomeForm form;
-        for (const char act : visit) {
-            if (act == 'P') cmdPlay_Click(game);
-            if (act == 'c' || act == 'u') Check1_Change(game, form, act == 'c');
-            const auto chosen = std::string("nsdx").find(act);
-            if (chosen == std::string::npos) continue;
-            answers = {act == 'x' ? HeadlessAnswer::Cancel : HeadlessAnswer::Ok};
-            changeOptions = [chosen](Game&, OptionsForm& options) {
-                options.showAtStartUp = chosen < 3 ? static_cast<StartUpWindow>(chosen) : StartUpWindow::None;
-            };
-            cmdOptions_Click(game, form);
-        }
-        EXPECT_EQ(form.Check1, !game.settings.ShowDialog) << visit;
-        EXPECT_FALSE(game.session.OpenedFromGame);
+        if (changes) Check1_Change(game, form, true);
+        if (plays) cmdPlay_Click(game);
         frmWelcome_Unload(game);
     }
     void frmSplash(Game&) override { windows.push_back("splash"); }
@@ -62,43 +50,34 @@ struct FirstStart {
 };
 
 TEST(Start, OpensTheWindowThatTheSettingsChoose) {
-    for (const bool splash : {false, true}) {
-        FirstStart first({.ShowDialog = false, .ShowSplash = splash});
-        EXPECT_TRUE(Start(first.game));
-        EXPECT_EQ(first.Log(), splash ? "save,splash," : "save,table,");
-    }
-}
-
-TEST(Start, SavesWhatWasChangedInTheFirstWindow) {
-    struct {
-        const char* visit;
-        bool saved, dialog, splash;
-    } const cases[] = {{"X", false, true, false}, {"xP", false, true, false},  {"cuX", true, true, false},
-                       {"cP", true, false, true}, {"cnP", true, false, false}, {"cxX", false, false, true},
-                       {"ndP", true, true, false}};
-    for (const auto& [visit, saved, dialog, splash] : cases) {
-        FirstStart first({});
-        first.dialogs.visit = visit;
-        const bool plays = first.dialogs.visit.back() == 'P';
-        EXPECT_EQ(Start(first.game), plays);
+    for (unsigned bits = 0; bits < 16; ++bits) {
+        const bool dialog = bits & 1U, splash = bits & 2U, changes = bits & 4U, plays = bits & 8U;
+        FirstStart first({.ShowDialog = dialog, .ShowSplash = splash, .BGMusicVolume = 7});
+        first.dialogs.windows.clear();
+        std::tie(first.dialogs.changes, first.dialogs.plays) = std::tuple(changes, plays);
+        EXPECT_EQ(Start(first.game), !dialog || plays);
+        EXPECT_EQ(first.game.settings.BGMusicVolume, 7) << "loaded";
         EXPECT_EQ(first.Log(),
-                  std::string("save,welcome,close help,") + (saved ? "save," : "") + (plays ? "table," : ""))
-            << visit;
-        const GameSettings kept = first.store.LoadSettings();
-        EXPECT_TRUE(kept.ShowDialog == (!saved || dialog) && kept.ShowSplash == (saved && splash)) << visit;
+                  !dialog ? splash ? "splash," : "table,"
+                          : std::string("welcome,close help,") + (changes ? "save," : "") + (plays ? "table," : ""));
+        EXPECT_FALSE(first.game.session.SettingsChanged);
+        EXPECT_EQ(first.store.LoadSettings().ShowDialog, dialog && !changes);
     }
 }
 
 TEST(Unload, ClosesEverythingInItsOrder) {
-    FirstStart first({});
-    first.game.settings = {.ConfirmOnExit = true, .BGMusicEnabled = true};
-    first.dialogs.windows.clear();
-    first.dialogs.answers = {HeadlessAnswer::Cancel};
-    EXPECT_FALSE(Form_QueryUnload(first.game));
-    EXPECT_EQ(first.Log(), "");
-    EXPECT_TRUE(Form_QueryUnload(first.game));
-    EXPECT_EQ(first.Log(), "save,unload splash,close help,unload guide,");
-    EXPECT_EQ(std::ranges::count(first.t.log, "media close myMP3"), 1);
+    for (const bool music : {false, true}) {
+        FirstStart first({});
+        first.game.settings = {.ConfirmOnExit = music, .BGMusicEnabled = music};
+        first.dialogs.windows.clear();
+        first.dialogs.answers = {HeadlessAnswer::Cancel};
+        EXPECT_TRUE(!music || !Form_QueryUnload(first.game)) << "cancelled";
+        EXPECT_EQ(first.Log(), "");
+        EXPECT_TRUE(Form_QueryUnload(first.game));
+        EXPECT_EQ(first.Log(), "save,unload splash,close help,unload guide,");
+        EXPECT_EQ(std::ranges::count(first.t.log, "media close myMP3"), music ? 1 : 0);
+        EXPECT_EQ(first.t.log.back(), "media close song");
+    }
 }
 
 }  // namespace

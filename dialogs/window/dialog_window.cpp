@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <utility>
 
 #include "kit/controls.h"
@@ -25,13 +26,15 @@ void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share
     move(IntoView({place, frame}, window.screen()->availableGeometry()));
 }
 
-void DialogWindow::SetPointers(const Game& game, Art& art, std::vector<QWidget*> clickable) {
+void DialogWindow::Equip(const Game& game, Art& art, std::vector<QWidget*> clickable) {
     const QString folder = QString::fromStdString(game.session.AppPath);
     setPointers_ = [this, folder, &art, clickable = std::move(clickable)] {
         SetBasePointer(*this, folder);
         for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
     };
     setPointers_();
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [&shell = game.shell] { shell.ShowHelpContents(); });
 }
 
 void DialogWindow::changeEvent(QEvent* event) {

@@ -7,8 +7,8 @@
 #include "core/game.h"
 #include "kit/art.h"
 
-// What the game's dialogs have in common: a client area of a fixed size in twips, the game's pointers and a place over
-// the window that owns them.
+// What the game's dialogs have in common: a client area of a fixed size in twips, the game's pointers, its help and a
+// place over the window that owns them.
 class DialogWindow : public QDialog {
 public:
     DialogWindow(QWidget& owner, const char* name, const char* caption, int widthInTwips, int heightInTwips)
@@ -21,7 +21,8 @@ public:
     // The same over any window, but not off its screen. share: how much of the difference in height lies above this
     // window.
     void PlaceOver(const QWidget& window, int twipsBelow = 0, double share = 0.5);
-    void SetPointers(const Game& game, Art& art, std::vector<QWidget*> clickable);
+    // The game's pointers, the hand over what can be clicked, and F1 for the help.
+    void Equip(const Game& game, Art& art, std::vector<QWidget*> clickable);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -19,14 +19,14 @@ frmAbout::frmAbout(QWidget& mainWindow, Game& game, Art& art)
     AddTitle(*this, {margin, 300, innerWidth - 2 * margin, 420}, Qt::AlignHCenter);
     AddVersion(*this, {margin, 750, innerWidth - 2 * margin, 255}, Qt::AlignHCenter);
     Put(*new Picture("Image1", this, art, "about"), picturePlace);
-    const Links links = AddLinks(*this, game, {810, 3705, 900, 255});
+    const Links links = AddLinks(*this, game, {960, 3705, 900, 255});
     auto* close = new QPushButton("&Close", this);
     close->setObjectName("cmdClose");
     Put(*close, closePlace);
     close->setDefault(true);
     close->setFocus();
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    SetPointers(game, art, {close, links.webSite, links.email});
+    Equip(game, art, {close, links.webSite, links.email});
     PlaceOverOwner();
 }
 

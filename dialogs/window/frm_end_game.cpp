@@ -15,7 +15,7 @@ frmEndGame::frmEndGame(QWidget& owner, Game& game, Art& art)
     auto* undo = new QPushButton("&Undo Last Move", this);
     undo->setObjectName("cmdUndo");
     Put(*undo, {1920, 285, 1665, 645});
-    SetPointers(game, art, {finish, undo});
+    Equip(game, art, {finish, undo});
     PlaceOverOwner(2200);
     frmEndGame_Load(game);
     connect(finish, &QPushButton::clicked, this, [this, &game] {

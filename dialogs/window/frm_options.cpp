@@ -114,7 +114,7 @@ QBoxLayout* frmOptions::MakeButtons(Art& art) {
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &frmOptions::Ok);
     connect(cancel, &QPushButton::clicked, this, &frmOptions::reject);
-    SetPointers(game_, art, {ok, cancel});
+    Equip(game_, art, {ok, cancel});
     auto* row = new QHBoxLayout;
     row->addStretch();
     row->addWidget(ok);

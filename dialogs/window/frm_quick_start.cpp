@@ -9,6 +9,7 @@
 #include "dialogs/window/printing.h"
 #include "kit/controls.h"
 #include "kit/size.h"
+#include "kit/sized_widgets.h"
 
 // The guide lies in a static library, which the linker would take without it.
 static void TakeGuide() { Q_INIT_RESOURCE(guide); }
@@ -24,6 +25,7 @@ QString Guide(const char* smile) {
     QFile file(":/guide/guide.html");
     if (!file.open(QIODevice::ReadOnly)) return {};
     return QString::fromUtf8(file.readAll())
+        .trimmed()
         .replace("<img src=\"smile\"", QString("<img src=\"art:%1\" width=\"16\"").arg(smile));
 }
 
@@ -60,13 +62,14 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
     auto* all = new QVBoxLayout(this);
     all->addWidget(RichTextBox1_);
     all->addLayout(buttons);
-    SetPointers(game, art, {print, ok});
+    Equip(game, art, {print, ok});
     PlaceOver(over);
 }
 
 void frmQuickStart::ShowGuide() {
     const SizeWithin window(SizeIn(*this));
-    auto* guide = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, TableFont(false, textFont), onGround,
+    SetLetters(*RichTextBox1_, TableFont(false), textFont);
+    auto* guide = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, RichTextBox1_->font(), onGround,
                                   Guide("smile"), RichTextBox1_);
     constexpr int margin = 14;
     guide->setDocumentMargin(Sized(margin));

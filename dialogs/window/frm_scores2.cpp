@@ -61,7 +61,7 @@ frmScores2::frmScores2(QWidget& owner, Game& game, Art& art)
       cmdReturn_(Named<QPushButton>("cmdReturn", this)),
       Check1_(Named<QCheckBox>("Check1", this)) {
     PlaceOverOwner();
-    SetPointers(game, art, {cmdClearTable_, cmdReturn_});
+    Equip(game, art, {cmdClearTable_, cmdReturn_});
     form_ = frmScores2_Load(game);
     FixSize(*this, formWidth, LayoutOf(form_).height - titleHeight);
     MakeTabs();

@@ -34,7 +34,7 @@ frmTheWinerIs::frmTheWinerIs(QWidget& owner, Game& game, Art& art)
     Put(*close, {980, 1500, 1890, 420});
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    SetPointers(game, art, {close});
+    Equip(game, art, {close});
 }
 
 QLabel* frmTheWinerIs::AddLabel(const char* name, const Place& place, int fontPixels, const std::string& text,

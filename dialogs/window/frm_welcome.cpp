@@ -2,7 +2,6 @@
 
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 
 #include "dialogs/window/title_texts.h"
 #include "kit/controls.h"
@@ -24,7 +23,6 @@ frmWelcome::frmWelcome(Game& game, Art& art)
       game_(game),
       Check1_(new QCheckBox("Don't show this dialog next time")) {
     SetGameIcon(art);
-    setWindowModality(Qt::WindowModal);  // the help may stand beside it
     Put(*new Picture("Image1", this, art, "welcome"), picturePlace);
     AddTitle(*this, {left, 2580, 3450, 390}, Qt::AlignLeft);
     AddVersion(*this, {left + 3450, 2580, right - left - 3450, 390}, Qt::AlignRight);
@@ -43,8 +41,7 @@ frmWelcome::frmWelcome(Game& game, Art& art)
     connect(Check1_, &QCheckBox::toggled, this, [this](bool on) { Check1_Change(game_, form_, on); });
     QPushButton* exit =
         AddButton("cmdExit", "&Exit", {InRow(3).left, exitTop, buttonWidth, buttonHeight}, &frmWelcome::Exit);
-    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [&game] { game.shell.ShowHelpContents(); });
-    SetPointers(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
+    Equip(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
     play->setFocus();
     PlaceOnScreen();
 }

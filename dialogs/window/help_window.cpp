@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStringDecoder>
@@ -26,7 +27,7 @@ constexpr const char* colours =
     "body{color:#1b1b2b} h1{color:#003366} h2{color:#14508c} th{background-color:#e0e6f2} "
     "th,td{border-color:#b8c4d8} a{color:#14508c}";
 constexpr QSize roomySize(860, 600);
-constexpr int contentsWidth = 240;
+constexpr int contentsWidth = 280, contentsStep = 12;
 constexpr int letterStep = 2, leastLetters = 9, mostLetters = 33;  // pixels
 
 // The text of the file, or nothing when it is not whole.
@@ -94,6 +95,7 @@ void HelpWindow::FitToSize() {
     auto* document = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, text_->font(), colours, html_, text_);
     document->setDocumentMargin(SizedDown(letters_));
     ShowInPlace(*text_, document);
+    contents_->setIndentation(Sized(contentsStep));
     find_->setFixedWidth(Sized(contentsWidth));
 }
 
@@ -181,7 +183,10 @@ void HelpWindow::Find() {
 
 void HelpWindow::Resize(int pixels) {
     letters_ = std::clamp(pixels, leastLetters, mostLetters);
+    const QTextCursor read = text_->cursorForPosition({0, 0});
     SetLetters(*text_, TableFont(false), letters_);
+    QScrollBar& bar = *text_->verticalScrollBar();
+    bar.setValue(bar.value() + text_->cursorRect(read).top());
 }
 
 void HelpWindow::Print() {

@@ -25,45 +25,45 @@ Answer QtDialogs::ShowMessage(const Message& message) {
     return ShowMessageBox(dialog ? dialog : window, art_, message);
 }
 
+void QtDialogs::ShowModal(QDialog& dialog) {
+    dialog.setWindowModality(Qt::WindowModal);
+    const EventGate::Open open(gate_);
+    dialog.exec();
+}
+
 void QtDialogs::frmWelcome(Game& game) {
     ::frmWelcome dialog(game, art_);
     SetFirstWindow(&dialog);
-    dialog.exec();
+    ShowModal(dialog);
     SetFirstWindow(nullptr);
     frmWelcome_Unload(game);
 }
 
 void QtDialogs::frmEndGame(Game& game) {
     ::frmEndGame dialog(Owner(game), game, art_);
-    const EventGate::Open open(gate_);
-    dialog.exec();
+    ShowModal(dialog);
 }
 
 void QtDialogs::frmTheWinerIs(Game& game) {
     ::frmTheWinerIs dialog(Owner(game), game, art_);
-    const EventGate::Open open(gate_);
-    dialog.exec();
+    ShowModal(dialog);
 }
 
 void QtDialogs::frmScores2(Game& game) {
     ::frmScores2 dialog(Owner(game), game, art_);
-    const EventGate::Open open(gate_);
-    dialog.exec();
+    ShowModal(dialog);
 }
 
 void QtDialogs::frmOptions(Game& game) {
     ::frmOptions dialog(Owner(game), game, art_);
-    const EventGate::Open open(gate_);
-    dialog.exec();
+    ShowModal(dialog);
 }
 
 void QtDialogs::frmQuickStart(Game& game) {
     QWidget& over = Owner(game);
     if (!game.session.OpenedFromGame) {
         ::frmQuickStart dialog(over, &over, game, art_);
-        const EventGate::Open open(gate_);
-        dialog.exec();
-        return;
+        return ShowModal(dialog);
     }
     if (!guide_ || !guide_->isVisible()) guide_ = std::make_unique<::frmQuickStart>(over, nullptr, game, art_);
     BringToFront(*guide_);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 #include <functional>
 #include <memory>
 
@@ -8,8 +8,9 @@
 #include "kit/art.h"
 #include "kit/event_gate.h"
 
-// The windows around the main one. A modal one stands over its owner while the timers of the table go on. The owner is
-// the main window once the dialog was opened from it, before that the first window.
+// The windows around the main one. A modal one stands over its owner, the main window once the dialog was opened from
+// it, before that the first window. The timers of the table go on meanwhile, and what stands beside the owner, such as
+// the help, can be used.
 class QtDialogs final : public Dialogs {
 public:
     QtDialogs(QWidget& mainWindow, EventGate& gate, Art& art) : mainWindow_(mainWindow), gate_(gate), art_(art) {}
@@ -32,6 +33,7 @@ public:
 
 private:
     QWidget& Owner(const Game& game) const;
+    void ShowModal(QDialog& dialog);
 
     QWidget& mainWindow_;
     QWidget* firstWindow_ = nullptr;
