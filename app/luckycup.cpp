@@ -3,6 +3,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 
+#include "app/end_signals.h"
 #include "app/program.h"
 #include "app/single_instance.h"
 #include "kit/look.h"
@@ -20,6 +21,7 @@ ProgramFiles Files() {
 }  // namespace
 
 int Main(QApplication& app) {
+    EndOnSignals(app);
     ChangeSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
     Art art;
     FileLock lock;
@@ -31,5 +33,7 @@ int Main(QApplication& app) {
     }
     art.RenderAhead(FirstPictures(app.devicePixelRatio()));
     Program program(Files(), art);
-    return program.Start() ? app.exec() : 0;
+    const int status = program.Start() ? app.exec() : 0;
+    program.window.Leave();
+    return status;
 }

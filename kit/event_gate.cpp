@@ -4,12 +4,12 @@
 
 void EventGate::Run(Handler handler) {
     if (shut_) return;
-    if (Busy()) {
+    // Behind those that wait, which do not run here: Qt may be in the middle of telling widgets that the mouse has left
+    // them, and a handler that opens or closes windows would take them away.
+    if (Busy() || !waiting_.empty())
         waiting_.push_back(std::move(handler));
-        return;
-    }
-    while (!waiting_.empty()) RunFirstWaiting();
-    Enter(handler);
+    else
+        Enter(handler);
 }
 
 void EventGate::Shut() {

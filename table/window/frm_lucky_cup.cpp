@@ -82,6 +82,11 @@ void frmLuckyCup::Load(Game& game) {
     Run(Form_Load);
 }
 
+void frmLuckyCup::Leave() {
+    if (game_) Form_Unload(*game_);
+    LetGo();
+}
+
 void frmLuckyCup::SetPointersAndIcon() {
     SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
