@@ -37,6 +37,7 @@ TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
         QTest::qWait(5);
         ran += "0 ";
     });
+    QTest::qWait(5);
     EXPECT_THROW(gate.Run([&] {
         gate.Run([&] { ran += "later "; });
         throw std::runtime_error("a handler failed");

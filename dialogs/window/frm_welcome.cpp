@@ -3,6 +3,8 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
+#include <utility>
 
 #include "dialogs/window/title_texts.h"
 #include "kit/controls.h"
@@ -19,11 +21,14 @@ constexpr int exitTop = checkPlace.top + (checkPlace.height - buttonHeight) / 2;
 constexpr Place InRow(int k) { return {left + k * buttonStep, buttonTop, buttonWidth, buttonHeight}; }
 }  // namespace
 
+std::vector<Art::Wanted> WelcomePictures(qreal devicePixelRatio) {
+    return {Art::WantedOver("welcome", Pixels(picturePlace), devicePixelRatio)};
+}
+
 frmWelcome::frmWelcome(Game& game, Art& art)
     : DialogWindow(nullptr, "frmWelcome", "Welcome to LuckyCup 2.2.2", 6105, 5260),
       game_(game),
       Check1_(new QCheckBox("Don't show this dialog next time")) {
-    SetGameIcon(art);
     setWindowModality(Qt::WindowModal);  // the help may stand beside it
     Put(*new Picture("Image1", this, art, "welcome"), picturePlace);
     AddTitle(*this, {left, 2580, 3450, 390}, Qt::AlignLeft);
@@ -44,9 +49,17 @@ frmWelcome::frmWelcome(Game& game, Art& art)
     QPushButton* exit =
         AddButton("cmdExit", "&Exit", {InRow(3).left, exitTop, buttonWidth, buttonHeight}, &frmWelcome::Exit);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [&game] { game.shell.ShowHelpContents(); });
-    SetPointers(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
+    afterFirstPicture_ = [=, this, &game, &art] {
+        SetGameIcon(art);
+        SetPointers(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
+    };
     play->setFocus();
     PlaceOnScreen();
+}
+
+void frmWelcome::paintEvent(QPaintEvent* event) {
+    DialogWindow::paintEvent(event);
+    if (afterFirstPicture_) QTimer::singleShot(0, this, std::exchange(afterFirstPicture_, nullptr));
 }
 
 QPushButton* frmWelcome::AddButton(const char* name, const char* caption, const Place& place,

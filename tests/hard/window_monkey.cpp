@@ -94,11 +94,17 @@ private:
         return settings;
     }
 
-    // Whether a dialog has come up, or dice roll. Here a nested event loop would keep the timer waiting.
+    // Whether a dialog or a menu of Qt's own has come up, in whose event loop the monkey would wait for ever, or dice
+    // roll. What is done about it is done later, since a timer waits for the end of its own tick.
     void LookUp() {
         const auto later = [this](auto what) { QMetaObject::invokeMethod(&look_, what, Qt::QueuedConnection); };
         QPointer<QWidget> modal = QApplication::activeModalWidget();
-        if (modal && !modal->property("met").toBool()) {
+        QPointer<QWidget> popup = QApplication::activePopupWidget();
+        if (popup && acting_ && !popup->objectName().startsWith("mnu")) {
+            later([popup] {
+                if (popup) popup->close();
+            });
+        } else if (modal && !modal->property("met").toBool()) {
             modal->setProperty("met", true);
             later([=, this] { PlayIn(modal); });
         } else if (table_.gate.Busy() && !std::exchange(rolling_, true)) {
@@ -140,10 +146,10 @@ private:
         last_.push_back(name + (" in " + target.objectName()).toStdString());
         if (last_.size() > 20) last_.pop_front();
         static const bool trace = qEnvironmentVariableIsSet("TRACE");
-        if (trace) std::cerr << "T " << depth_ << ' ' << last_.back() << '\n';
-        ++depth_;
+        if (trace) std::cerr << "T " << acting_ << ' ' << last_.back() << '\n';
+        ++acting_;
         if (target.windowHandle()) (this->*go)(target);
-        --depth_;
+        --acting_;
         if (Below(3) == 0) QCoreApplication::processEvents();
         if (std::ranges::count(table_.log, "help") > 0) ShowHelp();
         Count();
@@ -276,7 +282,7 @@ private:
     QTimer look_;
     std::deque<std::string> last_;
     bool rolling_ = false, over_ = false;
-    int depth_ = 0;
+    int acting_ = 0;  // at once: one in the event loop of another
     int size_ = Size();
 };
 
