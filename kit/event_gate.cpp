@@ -1,5 +1,6 @@
 #include "kit/event_gate.h"
 
+#include <QApplication>
 #include <utility>
 
 void EventGate::Run(Handler handler) {
@@ -11,6 +12,8 @@ void EventGate::Run(Handler handler) {
     else
         Enter(handler);
 }
+
+bool EventGate::Busy() const { return depth_ > 0 || (opened_ > 0 && !QApplication::activeModalWidget()); }
 
 void EventGate::Shut() {
     shut_ = true;
@@ -43,6 +46,13 @@ EventGate::Inside::~Inside() {
     gate_.RunLater();
 }
 
-EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) { gate_.RunLater(); }
+EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) {
+    ++gate_.opened_;
+    gate_.RunLater();
+}
 
-EventGate::Open::~Open() { gate_.depth_ = depth_; }
+EventGate::Open::~Open() {
+    --gate_.opened_;
+    gate_.depth_ = depth_;
+    gate_.RunLater();
+}

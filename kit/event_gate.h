@@ -6,13 +6,14 @@
 
 // The one door into the game. A handler runs to its end before the next one begins: what wants in meanwhile waits its
 // turn and runs, in order, when the event loop is reached again. While a modal window stands open inside a handler the
-// door is open once more, so that timers go on behind it.
+// door is open once more, so that timers go on behind it; not so once it has closed, though its event loop may still
+// have clicks to hand out.
 class EventGate final : public QObject {
 public:
     using Handler = std::function<void()>;
 
     void Run(Handler handler);
-    bool Busy() const { return depth_ > 0; }
+    bool Busy() const;
     void Shut();  // lets nothing in any more and drops what waits
 
     // Stands around the event loop of a modal window.
@@ -43,6 +44,7 @@ private:
     void RunFirstWaiting();
 
     int depth_ = 0;
+    int opened_ = 0;  // windows around whose event loops an Open stands
     bool shut_ = false;
     std::deque<Handler> waiting_;
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QTest>
 
 #include "kit/qt_timers.h"
@@ -46,6 +47,25 @@ TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
     gate.Run([&] { ran += "next "; });
     QTest::qWait(5);
     EXPECT_EQ(ran, "0 1 2 later next ");
+}
+
+// As the second half of a double click, which may reach the table before the dialog that it closes has ended.
+TEST(Gate, LetsNothingInBehindADialogThatHasClosed) {
+    EventGate gate;
+    std::string ran;
+    QDialog dialog;
+    QTimer::singleShot(0, &dialog, [&] {
+        gate.Run([&] { ran += "beside "; });
+        dialog.close();
+        gate.Run([&] { ran += "behind "; });
+    });
+    gate.Run([&] {
+        const EventGate::Open open(gate);
+        dialog.exec();
+        ran += "rest ";
+    });
+    QTest::qWait(5);
+    EXPECT_EQ(ran, "beside rest behind ");
 }
 
 }  // namespace
