@@ -65,7 +65,7 @@ void CloseTurn(Game& game, int row) {
 }
 
 void OfferUndoBelowThreeRolls(Game& game) {
-    if (game.session.PrevRollCount == 3) {
+    if (game.session.PrevRollCount == rollsPerTurn) {
         SetPanelText(game, 2, "Roll the dice");
         return;
     }

@@ -1,9 +1,12 @@
 #include "core/box_click.h"
 
+#include <cassert>
+
 #include "core/announce.h"
 #include "core/placement.h"
 
 void ClickBox(Game& game, ScoreColumn column, int row) {
+    assert(column != ScoreColumn::None && IsRow(row));
     switch (column) {
         case ScoreColumn::Down:
             return cmdDown_Click(game, row);

@@ -26,7 +26,7 @@ bool AskToFinish(Game& game) {
 
 AfterCheck EndOnePlayer(Game& game) {
     AfterCheck after;
-    if (game.session.PrevRollCount == 3) {
+    if (game.session.PrevRollCount == rollsPerTurn) {
         game.parts.ScoreCounter(game);
         GameOver(game);
         after.handlerEnds = true;
@@ -46,7 +46,7 @@ AfterCheck EndOneOfTwo(Game& game) {
     const bool second = SecondPlayerOnMove(game);
     after.runCounter = false;
     after.offerNextPlayer = !second;
-    if (game.session.PrevRollCount == 3) {
+    if (game.session.PrevRollCount == rollsPerTurn) {
         game.parts.ScoreCounter(game);
         GameOver(game);
         if (second)

@@ -5,6 +5,8 @@
 
 #include "core/scorecard.h"
 
+inline constexpr int rollsPerTurn = 3;
+
 // The live state of the process. The initial values are those at process start; nothing here reaches the disk.
 struct GameSession {
     // The application, across games.
@@ -20,7 +22,7 @@ struct GameSession {
     bool EndGameSeen = false;
 
     // The turn.
-    int RollCount = 0;      // rolls made in this turn, 0 to 3
+    int RollCount = 0;      // rolls made in this turn, 0 to rollsPerTurn
     int PrevRollCount = 0;  // RollCount when the last box was written or announced
     bool FirstRollPending = false;
     bool RollAllowed = false;

@@ -6,4 +6,7 @@
 void StopMusic(Game& game);
 void PauseMusic(Game& game);
 void ResumeMusic(Game& game);
-void CloseSong(Game& game);  // the player of the one-shot pieces
+
+// The player of the one-shot pieces, which plays a piece only where the last one was closed.
+void CloseSong(Game& game);
+void PlaySong(Game& game, const std::string& path);

@@ -1,6 +1,7 @@
 #include "core/row_scores.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "core/column_totals.h"
 #include "core/show.h"
@@ -167,6 +168,7 @@ void ScoreFourOfAKind(Game& game) { Score(game, FourOfAKindValue, WriteLowerRow)
 void ScoreFiveOfAKind(Game& game) { Score(game, FiveOfAKindValue, WriteLowerRow); }
 
 void ScoreRowOf(Game& game, int row) {
+    assert(IsRow(row));
     using Routine = void (*)(Game&);
     static constexpr Indexed<Routine, rowCount - rowMax, int, rowMax> routines{
         {ScoreMax, ScoreMin, ScoreThreeOfAKind, ScoreFullHouse, ScoreStraight, ScoreFourOfAKind, ScoreFiveOfAKind}};

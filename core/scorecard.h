@@ -31,11 +31,13 @@ using ByRow = Indexed<T, rowCount>;
 enum class ScoreColumn { None, Down, Up, Rand, Oblg };
 inline constexpr std::array allColumns{ScoreColumn::Down, ScoreColumn::Up, ScoreColumn::Rand, ScoreColumn::Oblg};
 
+inline constexpr int columnCount = static_cast<int>(allColumns.size());
+
 // Addressed by its column, which must not be None.
 template <typename T>
 using ByColumn = Indexed<T, allColumns.size(), ScoreColumn, 1>;
 
-inline constexpr int boxCount = rowCount * static_cast<int>(allColumns.size());  // of a four-column board
+inline constexpr int boxCount = rowCount * columnCount;  // of a four-column board
 
 enum class TotalRow { SubTotal, Product, ColumnTotal };
 inline constexpr std::array allTotalRows{TotalRow::SubTotal, TotalRow::Product, TotalRow::ColumnTotal};

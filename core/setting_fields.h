@@ -35,6 +35,6 @@ inline constexpr SettingField settingFields[] = {
     {"ConfirmOnExit", &GameSettings::ConfirmOnExit},
     {"ConfirmQuitGame", &GameSettings::ConfirmQuitGame},
     {"BGMusicEnabled", &GameSettings::BGMusicEnabled},
-    {"BGMusicVolume", NumberSetting{&GameSettings::BGMusicVolume, 0, 1000}},
+    {"BGMusicVolume", NumberSetting{&GameSettings::BGMusicVolume, 0, fullVolume}},
     {"ShowGridLines", &GameSettings::ShowGridLines},
 };

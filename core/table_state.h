@@ -16,8 +16,8 @@ struct TimerState {
 struct DieState {
     int face = 1;  // the face shown, 1 to 6
     bool shown = true;
-    bool held = false;  // which of its two pictures is the visible one
-    bool enabled = false;
+    bool held = false;     // which of its two pictures is the visible one
+    bool enabled = false;  // both pictures: a click can reach the visible one alone
 };
 
 struct RollButtonState {

@@ -2,7 +2,7 @@
 
 int ScoreFileNumber(const GameSettings& settings) {
     const int firstOfType = FourColumns(settings) ? 1 : 3;
-    return settings.NumberOfDice == 5 ? firstOfType : firstOfType + 1;
+    return FiveDice(settings) ? firstOfType + 1 : firstOfType;
 }
 
 bool RecordTopScore(Game& game, int finalScore, const std::string& playerName) {

@@ -15,7 +15,6 @@ namespace {
 constexpr int rollingFrames = 9;
 constexpr int rollingFrameMs = 60;
 constexpr int automaticWriteMs = 200;
-constexpr int rollsPerTurn = 3;
 
 int EmptyBoxes(const ColumnCard& column) { return static_cast<int>(std::ranges::count(column.boxes, std::string())); }
 
@@ -65,12 +64,12 @@ void AnnounceLastBox(Game& game) {
     SetUndoEnabled(game, false);
 }
 
-int FreeDice(const DiceSet& dice) {
+int CountFreeDice(const DiceSet& dice) {
     return static_cast<int>(std::count(dice.RollFlags.begin(), dice.RollFlags.begin() + dice.LastDieIndex + 1, true));
 }
 
 void PlayRollSound(Game& game) {
-    const int free = FreeDice(game.dice);
+    const int free = CountFreeDice(game.dice);
     if (free > 3)
         PlayEffect(game, "rollAll");
     else if (free > 1)
@@ -111,7 +110,8 @@ void CloseAnnounceWindow(Game& game) {
 void ShowRollingDice(Game& game) {
     for (int frame = 0; frame < rollingFrames; ++frame) {
         for (int i = 0; i <= game.dice.LastDieIndex; ++i)
-            if (game.dice.RollFlags[i]) game.view.ShowRollingFace(i, static_cast<int>(game.random.Next() * 5) + 1);
+            if (game.dice.RollFlags[i])
+                game.view.ShowRollingFace(i, static_cast<int>(game.random.Next() * (facesOfADie - 1)) + 1);
         game.clock.Wait(rollingFrameMs);
     }
 }
@@ -215,7 +215,7 @@ void picDice_Click(Game& game, int i) {
     game.dice.HeldMirror[i] = false;
     ShowDieHeld(game, i);
     PlayEffect(game, "holdDice");
-    if (FreeDice(game.dice) == 0) SetRollOff(game);
+    if (CountFreeDice(game.dice) == 0) SetRollOff(game);
 }
 
 void PicDiceOff_Click(Game& game, int i) {

@@ -53,6 +53,15 @@ void SwapTable(Game& game) {
         SwapBoardOneColumn(game);
 }
 
+void ExchangeCounterPicture(Game& game, bool firstLeaves) {
+    const auto [leaving, coming] = firstLeaves
+                                       ? std::pair(CounterPicture::picPlayer1Score, CounterPicture::picPlayer2Score)
+                                       : std::pair(CounterPicture::picPlayer2Score, CounterPicture::picPlayer1Score);
+    game.view.CopyPicture(CounterPicture::picScore, leaving);
+    game.view.CopyPicture(coming, CounterPicture::picScore);
+    game.view.RefreshCounter();
+}
+
 }  // namespace
 
 bool FirstPlayerOnTable(const Game& game) {
@@ -72,12 +81,7 @@ int HandOver(Game& game) {
 
 void SwapCounters(Game& game) {
     SwapTotals(game);
-    const bool first = FirstPlayerOnTable(game);
-    const CounterPicture leaving = first ? CounterPicture::picPlayer1Score : CounterPicture::picPlayer2Score;
-    const CounterPicture coming = first ? CounterPicture::picPlayer2Score : CounterPicture::picPlayer1Score;
-    game.view.CopyPicture(CounterPicture::picScore, leaving);
-    game.view.CopyPicture(coming, CounterPicture::picScore);
-    game.view.RefreshCounter();
+    ExchangeCounterPicture(game, FirstPlayerOnTable(game));
 }
 
 void SwapTotals(Game& game) {
@@ -110,10 +114,6 @@ void cmdShowNextBoard_Click(Game& game) {
     SetShowBoardCaption(game, toFirst ? second : first);
     SetTitleFor(game, shown);
     SetPanelText(game, 1, shown);
-    const CounterPicture leaving = toFirst ? CounterPicture::picPlayer2Score : CounterPicture::picPlayer1Score;
-    const CounterPicture coming = toFirst ? CounterPicture::picPlayer1Score : CounterPicture::picPlayer2Score;
-    game.view.CopyPicture(CounterPicture::picScore, leaving);
-    game.view.CopyPicture(coming, CounterPicture::picScore);
-    game.view.RefreshCounter();
+    ExchangeCounterPicture(game, !toFirst);
     SwapTable(game);
 }

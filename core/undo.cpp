@@ -27,7 +27,7 @@ void TakeBackBoxCount(GameSession& session) {
 }
 
 void ShowTurnAgain(Game& game) {
-    if (game.session.RollCount != 3) {
+    if (game.session.RollCount != rollsPerTurn) {
         SetPanelText(game, 2, "Place your score or roll the dice");
         return;
     }
@@ -38,7 +38,7 @@ void ShowTurnAgain(Game& game) {
 void GiveDiceBack(Game& game) {
     DiceSet& dice = game.dice;
     for (int i = 0; i <= dice.LastDieIndex; ++i) dice.DiceValues[i] = dice.UndoDiceValues[i];
-    if (game.session.RollCount >= 3) return;
+    if (game.session.RollCount >= rollsPerTurn) return;
     for (int i = 0; i <= dice.LastDieIndex; ++i) {
         dice.RollFlags[i] = dice.HeldMirror[i];
         EnableDie(game, i, true);
@@ -82,7 +82,7 @@ void TakeOutWithProduct(Game& game, ScoreColumn column, int points) {
     SetTotalText(game, column, TotalRow::Product, "");
 }
 
-// A total that goes below 0 here is put right by the repair at the end.
+// The total of the column may go below 0 here; the repair at the end puts it right.
 void TakeOutOfTotals(Game& game, ScoreColumn column, int points) {
     SetTotalOrEmpty(game, column, TotalRow::ColumnTotal, TotalValue(game, column, TotalRow::ColumnTotal) - points);
     game.session.Total = std::max(game.session.Total - points, 0);

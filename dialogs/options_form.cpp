@@ -4,11 +4,11 @@
 
 OptionsForm frmOptions_Load(const Game& game) {
     const GameSettings& settings = game.settings;
-    const bool onePlayer = settings.NumberOfPlayers == 1;
+    const bool onePlayer = !TwoPlayers(settings);
     OptionsForm form;
     form.SavedVolume = settings.BGMusicVolume;
-    form.optYahtzee = settings.NumberOfColumns == 1;
-    form.opt5Dice = settings.NumberOfDice == 4;
+    form.optYahtzee = !FourColumns(settings);
+    form.opt5Dice = FiveDice(settings);
     form.opt1Player = onePlayer;
     form.txtName1 = settings.Player1;
     form.txtName2 = settings.Player2;

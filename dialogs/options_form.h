@@ -19,13 +19,13 @@ struct OptionsForm {
     bool chkQuitGame = false;
     bool chkConfirmExit = false;
     StartUpWindow showAtStartUp = StartUpWindow::None;
-    int sldVolume = 500;
-    int SavedVolume = 500;
+    int sldVolume = defaultVolume;
+    int SavedVolume = defaultVolume;
 };
 
 OptionsForm frmOptions_Load(const Game& game);
 void opt1Player_Click(OptionsForm& form);
 void opt2Players_Click(OptionsForm& form);
-void sldVolume_Change(Game& game, OptionsForm& form, int volume);  // 0 to 1000, heard at once
+void sldVolume_Change(Game& game, OptionsForm& form, int volume);  // 0 to fullVolume, heard at once
 void OptionsOk(Game& game, const OptionsForm& form);
 void OptionsCancel(Game& game, OptionsForm& form);

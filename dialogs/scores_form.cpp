@@ -54,9 +54,8 @@ std::string ScoreResultText(const Game& game) {
 
 bool JingleSounds(const Game& game) { return game.session.SoundOn && !game.session.RedoInProgress; }
 
-void PlayJingle(Game& game, const std::string& name) {
-    game.media.Send("open \"" + ProgramFile(game.session.AppPath, {"LCWAVS", name}) + "\" alias song");
-    game.media.Send("play song");
+void PlayJingle(Game& game, std::string_view name) {
+    PlaySong(game, ProgramFile(game.session.AppPath, {"LCWAVS", name}));
 }
 
 void ShowMissed(Game& game, ScoresForm& form) {

@@ -13,8 +13,8 @@ public:
     using Handler = std::function<void()>;
 
     void Run(Handler handler);
-    bool Busy() const;
-    void Shut();  // lets nothing in any more and drops what waits
+    bool Busy() const;  // what wants in waits
+    void Shut();        // lets nothing in any more and drops what waits
 
     // Stands around the event loop of a modal window.
     class Open {

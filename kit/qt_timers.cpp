@@ -1,6 +1,7 @@
 #include "kit/qt_timers.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace {
 // ms. Nobody sees what changes more often than a screen draws.
@@ -17,6 +18,7 @@ QtTimers::QtTimers(EventGate& gate) : gate_(gate) {
 }
 
 void QtTimers::Start(Timer timer, int interval) {
+    assert(tick_);
     slots_[timer].due = false;
     slots_[timer].timer.setTimerType(TypeFor(interval));
     slots_[timer].timer.start(std::max(interval, shortestInterval));

@@ -1,6 +1,7 @@
 #include "script/events.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "core/hints.h"
 #include "core/new_game.h"
@@ -40,7 +41,7 @@ bool Die(ScriptTable& script, const ScriptLine& line) {
 
 struct BoxButton {
     explicit BoxButton(const ScriptLine& line)
-        : column(static_cast<ScoreColumn>(ParseNumber(line.Value(1), 1, 4))),
+        : column(static_cast<ScoreColumn>(ParseNumber(line.Value(1), 1, columnCount))),
           row(ParseNumber(line.Value(2), 0, rowCount - 1)) {}
 
     bool TakesInput(const Game& game) const { return BoxOpen(game, column, row); }
@@ -182,6 +183,7 @@ const Event* FindEvent(std::string_view command) {
 bool IsEvent(std::string_view command) { return FindEvent(command) != nullptr; }
 
 bool RunEvent(ScriptTable& script, const ScriptLine& line) {
+    assert(IsEvent(line.Command()));
     const Event& event = *FindEvent(line.Command());
     const bool running = script.started && !script.closed;
     const bool mayStart = event.run == Start && !script.closed;

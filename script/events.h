@@ -13,6 +13,6 @@ struct ScriptTable {
 
 bool IsEvent(std::string_view command);
 
-// Carries out the event of the line. Returns whether it did anything: false for an input whose control takes none.
-// Throws BadLine; one that an answer caused leaves the table where the dialog stood.
+// Carries out the event of the line, whose command must be one. Returns whether it did anything: false for an input
+// whose control takes none. Throws BadLine; one that an answer caused leaves the table where the dialog stood.
 bool RunEvent(ScriptTable& script, const ScriptLine& line);

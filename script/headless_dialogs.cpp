@@ -6,8 +6,8 @@
 namespace {
 
 const char* NameOf(MessageIcon icon) {
-    constexpr std::array names{"question", "warning", "stop", "information"};
-    return names[static_cast<std::size_t>(icon)];
+    constexpr Indexed<const char*, 4, MessageIcon> names{{"question", "warning", "stop", "information"}};
+    return names[icon];
 }
 
 }  // namespace

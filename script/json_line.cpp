@@ -4,6 +4,7 @@
 #include "core/setting_fields.h"
 #include "core/timer.h"
 #include "script/json_writer.h"
+#include "table/row_names.h"
 
 namespace {
 
@@ -33,10 +34,8 @@ std::vector<int> RowsOf(const ByRow<bool>& flags) {
 // An object of the four columns.
 template <typename Of>
 void Columns(JsonWriter& json, std::string_view name, const Scorecard& card, Of of) {
-    constexpr std::array names{"Down", "Up", "Rand", "Oblg"};
     Object(json, name, [&] {
-        for (std::size_t column = 0; column < names.size(); ++column)
-            json.Member(names[column], of(card[allColumns[column]]));
+        for (ScoreColumn column : allColumns) json.Member(ColumnName(column), of(card[column]));
     });
 }
 
@@ -134,11 +133,11 @@ void WriteWindow(JsonWriter& json, const TableState& table) {
 }
 
 void WriteControls(JsonWriter& json, const TableState& table) {
-    constexpr std::array pictures{"up", "on", "off"};
+    constexpr Indexed<const char*, 3, RollPicture> pictures{{"up", "on", "off"}};
     Object(json, "roll", [&] {
         json.Member("enabled", table.roll.enabled);
         json.Member("visible", table.roll.visible);
-        json.Member("picture", pictures[static_cast<std::size_t>(table.roll.picture)]);
+        json.Member("picture", pictures[table.roll.picture]);
     });
     json.Member("lamps", table.lamps);
     json.Member("undo", table.undo);

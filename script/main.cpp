@@ -1,7 +1,7 @@
 #include <csignal>
 #include <iostream>
 
-#include "script/commands.h"
+#include "script/run_script.h"
 
 int main() {
 #ifdef SIGPIPE

@@ -3,7 +3,6 @@
 #include "core/leading_number.h"
 #include "core/music.h"
 #include "core/program_folder.h"
-#include "core/show.h"
 #include "core/timing.h"
 
 namespace {
@@ -35,8 +34,7 @@ void Timer3_Timer(Game& game, BackgroundMusic& music) {
 void Timer4_Timer(Game& game, BackgroundMusic& music) {
     if (music.IntroTickSeen) {
         CloseSong(game);
-        game.media.Send("open \"" + MusicFile(game, "Intro.mp3") + "\" alias song");
-        game.media.Send("play song");
+        PlaySong(game, MusicFile(game, "Intro.mp3"));
         DisableTimer(game, Timer::Timer4);
     }
     music.IntroTickSeen = !music.IntroTickSeen;

@@ -4,12 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "core/indexed.h"
+#include "core/game_settings.h"
 
 enum class MediaAlias { myMP3, song };
 enum class MediaVerb { Open, Play, PlayFromStart, Pause, Resume, Close, Position, Length, Volume };
-
-inline constexpr int fullVolume = 1000;
 
 struct MediaCommand {
     MediaVerb verb;

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <cassert>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -42,6 +43,7 @@ int OpenForLock(const QString& path, LockOn on) {
 }  // namespace
 
 LockAttempt FileLock::Try(const QString& path, LockOn on) {
+    assert(handle_ < 0);
     const int descriptor = OpenForLock(path, on);
     if (descriptor < 0) return LockAttempt::NotPossible;
     if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) {

@@ -30,7 +30,7 @@ TEST(Gate, HoldsTicksBackWhileAHandlerRuns) {
     EXPECT_EQ(ticks, 1);
 }
 
-TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
+TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFailsUntilItIsShut) {
     EventGate gate;
     std::string ran;
     gate.Run([&] {
@@ -46,26 +46,33 @@ TEST(Gate, LetsInOneAfterTheOtherAlsoWhenOneFails) {
                  std::runtime_error);
     gate.Run([&] { ran += "next "; });
     QTest::qWait(5);
+    gate.Run([&] { gate.Run([&] { gate.Shut(); }); });
+    QTest::qWait(5);
+    gate.Run([&] { ran += "behind the shut door "; });
     EXPECT_EQ(ran, "0 1 2 later next ");
 }
 
-// As the second half of a double click, which may reach the table before the dialog that it closes has ended.
-TEST(Gate, LetsNothingInBehindADialogThatHasClosed) {
+// Once it has closed there may still be clicks in its event loop, such as the second half of a double click.
+TEST(Gate, IsOpenBehindAModalWindowThatStandsInsideAHandler) {
     EventGate gate;
     std::string ran;
     QDialog dialog;
     QTimer::singleShot(0, &dialog, [&] {
-        gate.Run([&] { ran += "beside "; });
-        dialog.close();
         gate.Run([&] { ran += "behind "; });
+        dialog.close();
+        gate.Run([&] { ran += "after "; });
     });
     gate.Run([&] {
-        const EventGate::Open open(gate);
-        dialog.exec();
-        ran += "rest ";
+        gate.Run([&] { ran += "waited "; });
+        {
+            const EventGate::Open open(gate);
+            dialog.exec();
+        }
+        gate.Run([&] { ran += "last "; });
+        ran += "end ";
     });
     QTest::qWait(5);
-    EXPECT_EQ(ran, "beside rest behind ");
+    EXPECT_EQ(ran, "waited behind end after last ");
 }
 
 }  // namespace

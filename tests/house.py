@@ -34,10 +34,11 @@ WITHOUT_QT = {"app/tick.h", "app/tick.cpp"}
 
 
 def room_of(path):
-    folder = os.path.dirname(path)
-    while folder and folder not in ARROWS and folder not in EVERYONE:
-        folder = os.path.dirname(folder)
-    return folder
+    """The innermost room that the path lies in, or none."""
+    folders = os.path.dirname(path).split("/")
+    while folders and "/".join(folders) not in ARROWS.keys() | EVERYONE:
+        folders.pop()
+    return "/".join(folders)
 
 
 def faults_of(path, text):

@@ -28,7 +28,7 @@ TEST(NewGame, StartsAndGoesOnLikeTheFirstOfAProcess) {
     for (unsigned long seed = 0; seed < 80; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
-        const GameSettings settings = Variant(seed), next = Variant(seed / 8 % 2 == 0 ? seed : random());
+        const GameSettings settings = VariantOf(seed), next = VariantOf(seed / 8 % 2 == 0 ? seed : random());
         PlayedTable played(settings), fresh(next);
         PlayAtRandom(played, random, random() % 3000);
         played.game.session.BonusGiven.fill(true);  // seldom earned at random

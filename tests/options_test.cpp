@@ -6,7 +6,7 @@ namespace {
 TEST(Options, EachControlShowsAndStoresItsSetting) {
     for (unsigned bits = 0; bits < 512; ++bits) {
         const auto bit = [&](unsigned n) { return (bits >> n & 1U) != 0; };
-        GameSettings settings = Variant(bits);
+        GameSettings settings = VariantOf(bits);
         std::tie(settings.Player1, settings.Player2, settings.BGMusicVolume) = std::tuple("", " Bo ", 7);
         bool* const flags[] = {&settings.ShowDialog,    &settings.ShowSplash,      &settings.ShowStatusBar,
                                &settings.ConfirmOnExit, &settings.ConfirmQuitGame, &settings.BGMusicEnabled};

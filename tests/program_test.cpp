@@ -19,7 +19,7 @@ struct RunningProgram {
         program.game.settings = settings;
         program.ShowMainWindow();
         (void)QTest::qWaitForWindowExposed(&program.window);
-        answerer.callOnTimeout([] {
+        answerer.callOnTimeout(&answerer, [] {
             if (QWidget* modal = QApplication::activeModalWidget()) QTest::keyClick(modal, Qt::Key_Return);
         });
         answerer.start(5);
@@ -86,11 +86,14 @@ TEST(Program, KeepsTheMouseWaitingWhileTheDiceRoll) {
     QCursor::setPos(window.mapToGlobal(QPoint(2, 100)));
     QCoreApplication::processEvents();
     MoveLog log;
+    ByDie<bool> between;
     QTimer::singleShot(100, &window, [&] { QCursor::setPos(window.mapToGlobal(die(1))); });
     QTimer::singleShot(300, &window, [&] {
         EXPECT_EQ(log.moves, 0);
-        // One that gets past the event loop waits at the gate.
+        // What gets past the event loop waits at the gate, in order.
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, die(0));
+        running.program.gate.Run([&] { between = running.game.dice.RollFlags; });
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, die(1));
         EXPECT_TRUE(running.game.dice.RollFlags[0]);
         EXPECT_EQ(running.game.session.RollCount, 0);
     });
@@ -98,7 +101,8 @@ TEST(Program, KeepsTheMouseWaitingWhileTheDiceRoll) {
     QCoreApplication::processEvents();
     EXPECT_GT(log.moves, 0);
     EXPECT_EQ(running.game.session.RollCount, 1);
-    EXPECT_EQ(running.game.dice.RollFlags, (ByDie<bool>{{false, true, true, true, true, true}}));
+    EXPECT_EQ(between, (ByDie<bool>{{false, true, true, true, true, true}}));
+    EXPECT_EQ(running.game.dice.RollFlags, (ByDie<bool>{{false, false, true, true, true, true}}));
 }
 
 TEST(Program, RollsOtherDiceInEachGame) {
@@ -142,7 +146,7 @@ TEST(Program, LeavesByAnAnswerOnlyAndThenForGood) {
     running.answerer.stop();
     frmLuckyCup& window = running.program.window;
     const auto ask = [&](Qt::Key answer) {
-        QTimer::singleShot(200, [&, answer] {
+        QTimer::singleShot(200, &window, [&, answer] {
             QWidget* question = QApplication::activeModalWidget();
             ASSERT_TRUE(question);
             window.close();  // once more, with the question open
@@ -161,14 +165,18 @@ TEST(Program, LeavesByAnAnswerOnlyAndThenForGood) {
     EXPECT_FALSE(letIn);
 }
 
-TEST(Program, RecordsAGameInItsFolder) {
-    RunningProgram running({.NumberOfDice = 4, .NumberOfColumns = 1, .Player1 = "Ann"});
-    running.game.session.Total = 1234;
-    running.program.gate.Run([&] { GameOver(running.game); });
-    QFile written(running.folder.filePath("scores/scores4.dat"));
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    const QByteArray first = written.readAll().first(100);
-    EXPECT_TRUE(first.contains("Ann") && first.contains("\xD2\x04"));
+TEST(Program, RecordsEachTypeOfGameInAFileOfItsOwn) {
+    for (int number = 1; number <= 4; ++number) {
+        RunningProgram running(
+            {.NumberOfDice = number % 2 ? 5 : 4, .NumberOfColumns = number < 3 ? 4 : 1, .Player1 = "Ann"});
+        running.game.session.Total = 1234;
+        running.program.gate.Run([&] { GameOver(running.game); });
+        const QDir scores(running.folder.filePath("scores"));
+        EXPECT_EQ(scores.entryList(QDir::Files), QStringList(QString("scores%1.dat").arg(number)));
+        QFile written(scores.filePath(QString("scores%1.dat").arg(number)));
+        ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(written.read(24).startsWith(QByteArray("Ann       \xD2\x04\0\0", 14)));
+    }
 }
 
 }  // namespace

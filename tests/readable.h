@@ -3,10 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QString>
+#include <concepts>
 
 #include "core/indexed.h"
 #include "core/overloaded.h"
 #include "core/setting_fields.h"
+
+// The eight variants: bit 0 five dice, bit 1 two players, bit 2 one column.
+GameSettings VariantOf(std::integral auto bits) {
+    return {.NumberOfDice = bits & 1 ? 4 : 5, .NumberOfPlayers = bits & 2 ? 2 : 1, .NumberOfColumns = bits & 4 ? 1 : 4};
+}
 
 // How a failed test writes the records of the game.
 

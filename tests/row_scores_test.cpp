@@ -1,7 +1,6 @@
 #include "core/row_scores.h"
 
 #include <numeric>
-#include <ranges>
 
 #include "script/json_line.h"
 #include "tests/table_driver.h"
@@ -12,10 +11,10 @@ using Dice = std::vector<int>;
 
 int ValueOfFive(int row, const Dice& dice) {
     const int sum = std::accumulate(dice.begin(), dice.end(), 0);
-    std::array<int, 7> shown{};
-    for (int face : dice) ++shown[static_cast<std::size_t>(face)];
+    Indexed<int, facesOfADie + 1> shown;
+    for (int face : dice) ++shown[face];
     const int most = std::ranges::max(shown);
-    if (row <= rowSixes) return (row + 1) * shown[static_cast<std::size_t>(row + 1)];
+    if (row <= rowSixes) return (row + 1) * shown[row + 1];
     if (row == rowThreeOfAKind) return most >= 3 ? sum + 10 : 0;
     if (row == rowFullHouse) return most == 3 && std::ranges::count(shown, 2) == 1 ? sum + 20 : 0;
     if (row == rowStraight) return most > 1 || (shown[1] && shown[6]) ? 0 : shown[6] ? 60 : 50;
@@ -58,7 +57,7 @@ void CheckEveryThrow(std::size_t dice) {
                 const Dice& left = compute || row == rowStraight ? thrown : sorted;
                 ASSERT_EQ(game.session.RowScore, Value(row, thrown)) << row << testing::PrintToString(thrown);
                 ASSERT_EQ(RowValues(game.dice)[row], game.session.RowScore) << testing::PrintToString(thrown);
-                ASSERT_TRUE(std::ranges::equal(left, game.dice.DiceValues | std::views::take(dice)))
+                ASSERT_TRUE(std::equal(left.begin(), left.end(), game.dice.DiceValues.begin()))
                     << row << testing::PrintToString(thrown);
             }
     }

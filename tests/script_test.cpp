@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "script/commands.h"
+#include "script/run_script.h"
 
 namespace {
 

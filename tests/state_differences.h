@@ -4,12 +4,8 @@
 #include <QJsonObject>
 
 #include "script/json_line.h"
+#include "tests/readable.h"
 #include "tests/table_driver.h"
-
-// The eight variants.
-inline GameSettings Variant(unsigned long n) {
-    return {.NumberOfDice = n & 1 ? 4 : 5, .NumberOfPlayers = n & 2 ? 2 : 1, .NumberOfColumns = n & 4 ? 1 : 4};
-}
 
 // All that a script tells of the table, but for its log.
 inline QJsonObject StateOf(const PlayedTable& played) {

@@ -6,8 +6,8 @@
 #include <QSlider>
 
 #include "app/tick.h"
-#include "script/commands.h"
 #include "script/json_line.h"
+#include "script/set_up.h"
 #include "store/top_score_files.h"
 #include "table/presses.h"
 #include "table/row_names.h"
@@ -291,7 +291,7 @@ void TwinTables::Compare(const std::string& event) {
     const HeadlessTable& table = script.table;
     QJsonObject told = QJsonDocument::fromJson(QByteArray::fromStdString(JsonLine(event, false, table))).object();
     const GlyphColumns& picture = table.view.Picture(CounterPicture::picScore);
-    told["height"] = Pixels(table.game.table.height - 690);  // less its frame and the menu bar
+    told["height"] = Pixels(table.game.table.height - frameAndMenuHeight);
     told["closed"] = script.closed;
     const bool minimized = event == "minimize" || std::ranges::count(table.log, "minimize") > 0;
     told["minimized"] = minimized;

@@ -9,7 +9,7 @@ const std::string leftOver =
     "session.RedoAnnounceTwice session.RowScore session.TipsDirty session.MayHint tips ";
 
 struct UndoGame : PlayedTable {
-    explicit UndoGame(unsigned seed) : PlayedTable(Variant(seed)), random(seed) {
+    explicit UndoGame(unsigned seed) : PlayedTable(VariantOf(seed)), random(seed) {
         if (seed & 8) Do("hints request");
         for (auto open = OpenEvents(); !open.empty() && !game.session.GameOverShown; open = OpenEvents()) {
             const std::string event = open[random() % open.size()];

@@ -6,14 +6,6 @@
 #include "app/tick.h"
 #include "store/top_score_files.h"
 
-GameSettings VariantOf(int bits) {
-    GameSettings settings;
-    settings.NumberOfDice = bits & 1 ? 4 : 5;
-    settings.NumberOfPlayers = bits & 2 ? 2 : 1;
-    settings.NumberOfColumns = bits & 4 ? 1 : 4;
-    return settings;
-}
-
 void PaintingClock::Wait(int ms) {
     log.push_back("sleep " + std::to_string(ms));
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -27,7 +19,7 @@ WindowTable::WindowTable(const GameSettings& settings, Ticks ticks)
     game.settings = settings;
     window.SetMenuStyle(menuStyle);
     timers.SetTick([this](Timer timer) { Tick(game, parts, music, timer); });
-    answerer_.callOnTimeout([this] { AnswerDialog(); });
+    answerer_.callOnTimeout(&answerer_, [this] { AnswerDialog(); });
     answerer_.start(2);
     window.Load(game);
     window.show();

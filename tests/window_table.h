@@ -17,24 +17,19 @@
 #include "table/window/frm_lucky_cup.h"
 #include "tests/readable.h"
 
-// The main window at one of the eight variants: bit 0 five dice, bit 1 two players, bit 2 one column.
-GameSettings VariantOf(int bits);
-
-struct PaintingClock final : Clock {  // paints where the real one waits
+struct PaintingClock final : SilentClock {  // paints where the real one waits
     EventLog& log;
     std::string today = "2026-01-01";
     explicit PaintingClock(EventLog& events) : log(events) {}
     void Wait(int ms) override;
-    double TimeOfDay() override { return 0; }
     std::string ShortDate() override { return today; }
 };
 
-struct LoggingShell final : Shell {
+struct LoggingShell final : SilentShell {
     EventLog& log;
     explicit LoggingShell(EventLog& events) : log(events) {}
     void Open(const std::string& target) override { log.push_back("open " + target); }
     void ShowHelpContents() override { log.push_back("help"); }
-    void CloseHelp() override {}
 };
 
 enum class Ticks { ByThemselves, ByHand };
@@ -42,7 +37,7 @@ enum class Ticks { ByThemselves, ByHand };
 // The real window with its dialogs and timers, in a folder of its own, under the hands of a player.
 struct WindowTable {
     explicit WindowTable(const GameSettings& settings = {}, Ticks ticks = Ticks::ByThemselves);
-    ~WindowTable() { window.hide(); }
+    ~WindowTable() { window.LetGo(); }
 
     // Controls by their names. i: the index of one in an array.
     QWidget& At(const QString& name, int i = -1) const;

@@ -6,8 +6,9 @@
 #include <QUrl>
 #include <algorithm>
 
+namespace {
 // A resource is asked for by its name alone, so the name takes the width with it.
-static QString WithWidthInName(QString html, qreal scale) {
+QString WithWidthInName(QString html, qreal scale) {
     static const QRegularExpression picture(R"-(src="(art:\w+)"\s+width="(\d+)")-");
     for (QRegularExpressionMatch found = picture.match(html); found.hasMatch();
          found = picture.match(html, found.capturedEnd())) {
@@ -17,6 +18,7 @@ static QString WithWidthInName(QString html, qreal scale) {
     }
     return html;
 }
+}  // namespace
 
 ArtDocument::ArtDocument(Art& art, Scale scale, const QFont& font, const QString& styleSheet, const QString& html,
                          QObject* parent)

@@ -95,7 +95,7 @@ QGroupBox* frmOptions::MakeGeneral() {
 }
 
 QGroupBox* frmOptions::MakeVolume() {
-    sldVolume_->setRange(0, 1000);
+    sldVolume_->setRange(0, fullVolume);
     sldVolume_->setSingleStep(1);
     sldVolume_->setPageStep(100);
     sldVolume_->setAccessibleName("Music volume");

@@ -5,7 +5,9 @@
 
 #include "sound/player/samples.h"
 
-static int Milliseconds(off_t frames) { return static_cast<int>(frames * 1000 / framesPerSecond); }
+namespace {
+int Milliseconds(off_t frames) { return static_cast<int>(frames * 1000 / framesPerSecond); }
+}  // namespace
 
 std::unique_ptr<Mp3> Mp3::Open(const std::string& path) {
     std::error_code error;

@@ -2,9 +2,11 @@
 
 #include <QLibrary>
 
+#include "core/program_folder.h"
+
 void SoundLoader::Load() {
     if (std::exchange(tried_, true)) return;
-    const QString plugIn = QString::fromStdString(plugInFolder_) + "luckycup-sound.so";
+    const QString plugIn = QString::fromStdString(ProgramFile(plugInFolder_, {"luckycup-sound.so"}));
     const auto make = reinterpret_cast<MakeSoundPlayer*>(QLibrary::resolve(plugIn, makeSoundPlayer));
     if (make) player_.reset(make(programFolder_, clock_));
 }

@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QScreen>
 #include <QWindow>
+#include <cassert>
 #include <utility>
 
 #include "core/hints.h"
@@ -77,6 +78,7 @@ void frmLuckyCup::SetMenuStyle(QStyle& style) {
 }
 
 void frmLuckyCup::Load(Game& game) {
+    assert(!game_);
     game_ = &game;
     PlaceOnScreen();
     Run(Form_Load);
@@ -88,6 +90,7 @@ void frmLuckyCup::Leave() {
 }
 
 void frmLuckyCup::SetPointersAndIcon() {
+    if (!game_) return;
     SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
     board_.SetPointer(hand);
