@@ -9,7 +9,6 @@ import os
 import pathlib
 import re
 import resource
-import shutil
 import signal
 import subprocess
 import sys
@@ -20,10 +19,10 @@ import time
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent))
 from screen import Screen, wait_for  # noqa: E402 (found by the line above)
 
-TABLE = r"^Lucky Cup 2\.3$"
+TABLE, WELCOME = r"^Lucky Cup 2\.3$", "^Welcome"
 TABLE_FIRST = "ShowDialog=False\nShowSplash=False\nConfirmOnExit=True\n"
 CLOCK_ROWS = 40  # at the bottom of the window, where the picture changes by itself
-NOBODY = 65534
+STRANGER = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
 TWIPS, MENU_BAR = 15, 330  # to a pixel; of the told size
 FIRST_DIE = 245 + 400, 5655 + 400 + MENU_BAR
 PATIENCE = 60
@@ -32,7 +31,7 @@ PATIENCE = 60
 SAID_BY_QT = re.compile(
     r"QStandardPaths: .*|Detected locale .*|Qt depends on a UTF-8 locale.*|If this causes problems.*|with the locale .*|"
     r"Fontconfig (warning|error): .*|qt\.qpa\..*|The (X11|Wayland) connection (broke|experienced).*|.*Could not find .*fonts.*|"
-    r"QFontDatabase: .*| Note that Qt no longer ships fonts.*|")
+    r"QFontDatabase: .*|Failed to create secure directory .*/pulse.*| Note that Qt no longer ships fonts.*|")
 
 
 class Failure(Exception):
@@ -47,18 +46,18 @@ def expect(true, what):
 class Play:
     """One start of the program on a screen, which is thrown away at the end."""
 
-    def __init__(self, program, size=(800, 700), depth=24, settings=TABLE_FIRST, changes=None, rootless=False, **how):
+    def __init__(self, program, size=(800, 700), depth=24, settings=TABLE_FIRST, changes=None, readable=False, **how):
         self.program, self.changes, self.how = program, changes or {}, how
         self.screen = Screen(size=size, depth=depth)
-        self.settings, self.rootless = settings, rootless
+        self.settings, self.readable = settings, readable
 
     def __enter__(self):
         self.screen.__enter__()
         self.home = self.screen.new_home(self.settings)
         self.store = self.home / "config/LuckyCup/LuckyCup2.2.conf"
-        if self.rootless:
-            for path in (self.home.parent, *self.home.parent.iterdir(), *self.home.rglob("*")):
-                os.chmod(path, 0o755 if path.is_dir() else 0o644)
+        for path in (self.home.parent, self.home, *self.home.rglob("*")):
+            if self.readable:
+                os.chmod(path, 0o555 if path.is_dir() else 0o444)
         self.errors = tempfile.TemporaryFile()
         self.process = self.screen.start(self.program, home=self.home, stderr=self.errors, changes=self.changes, **self.how)
         return self
@@ -111,7 +110,7 @@ class Play:
         self.process.send_signal(number)
         self.ends(0)
         expect(self.process.returncode == 0, f"status {self.process.returncode}")
-        names = re.findall(r"^(\w+)=", self.store.read_text(), re.M)
+        names = re.findall(r"^(\w+)=", self.store.read_text(), re.M) if saves else []
         expect(not saves or len(names) == 15, f"saved are only {names}")
 
     def ends(self, status):
@@ -125,10 +124,14 @@ class Play:
         expect(not left, f"leaves {left}")
 
 
-def plays(saves=True, **how):
+def plays(saves=True, in_the_roll=False, **how):
     def case(program):
         with Play(program, **how) as play:
-            play.roll()
+            if not how.get("settings", TABLE_FIRST):
+                play.screen.press(play.window(WELCOME), "Return")
+            window = play.roll()
+            if not in_the_roll:
+                play.settle(window)
             play.end(saves=saves)
 
     return case
@@ -180,10 +183,19 @@ def hangs_up_unheard(program):
         play.end()
 
 
-def no_home(home):
-    """Nothing that is there tells where the user's files lie, and nothing of them can be made."""
+def without_home(home):
+    """Nothing tells where the user's files lie, and none can be made."""
     nothing = dict.fromkeys(("XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "TMPDIR"))
-    return plays(saves=False, settings="", welcome=True, changes={**nothing, "HOME": home}, user=NOBODY, group=NOBODY, extra_groups=[])
+    return plays(saves=False, settings="", changes={**nothing, "HOME": home}, **STRANGER)
+
+
+def not_writable(program):
+    """Its owner is another, or has forbidden it to himself."""
+    with Play(program, changes={"XDG_RUNTIME_DIR": None}, readable=True, **STRANGER) as play:
+        before = play.store.read_text()
+        play.settle(play.roll())
+        play.end(saves=False)
+        expect(play.store.read_text() == before, "the settings have changed")
 
 
 def little_memory(program):
@@ -263,18 +275,19 @@ def on_wayland(program):
 
 
 CASES = {
-    "SIGTERM in a roll": plays(),
+    "SIGTERM in a roll": plays(in_the_roll=True),
     "SIGINT": ended_by(signal.SIGINT),
     "SIGHUP": ended_by(signal.SIGHUP),
     "SIGHUP ignored": hangs_up_unheard,
     "SIGTERM with the options open": ended_with_open("ctrl+o", "^Options"),
     "SIGTERM with the question open": ended_with_open("ctrl+x", "^Confirm$"),
     "SIGTERM with the help open": ended_with_open("F1", "^Lucky Cup Help$"),
-    "SIGTERM at the welcome": ended_before_the_table("ShowDialog=True\n", "^Welcome"),
+    "SIGTERM at the welcome": ended_before_the_table("ShowDialog=True\n", WELCOME),
     "SIGTERM at the splash": ended_before_the_table("ShowDialog=False\nShowSplash=True\n", "."),
+    # One after the other, for one user plays one game at a time.
+    "no home, none there, not writable": lambda program: [case(program) for case in (without_home(None), without_home("/nowhere"), not_writable)],
     "no runtime folder": plays(changes={"XDG_RUNTIME_DIR": None}),
     "runtime folder that is not there": plays(changes={"XDG_RUNTIME_DIR": "/nowhere"}),
-    "home not writable": plays(saves=False, rootless=True, user=NOBODY, group=NOBODY, extra_groups=[]),
     "language C": in_language("C"),
     "language Turkish": in_language("tr_TR.UTF-8"),
     "language Arabic": in_language("ar_EG.UTF-8"),
