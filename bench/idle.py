@@ -8,7 +8,7 @@ import re
 import subprocess
 import time
 
-from programs import EMPTY, GAME, TABLE_FIRST, TABLE_TITLE, Changes, Screen, arguments, place_of, start_until_painted
+from programs import EMPTY, GAME, TABLE_FIRST, TABLE_TITLE, Changes, Screen, arguments, place_of, start_until_painted, wait_for
 
 SETTLING = 10.0  # seconds from the roll on, which do not count; the sound device closes in them
 
@@ -50,8 +50,6 @@ def main():
     options = arguments(__doc__, seconds=(30, "length of each measurement"))
     os.environ["SDL_AUDIODRIVER"] = "dummy"  # sounds like a card, where there is none too
     with Screen() as game_screen, Screen() as empty_screen:
-        # Without a window manager nothing is minimised.
-        game_screen.start("openbox", "--sm-disable", stderr=subprocess.DEVNULL)
         place = place_of(game_screen, TABLE_TITLE, TABLE_FIRST)
         game, _ = start_until_painted(game_screen, Changes(game_screen.display), place, [GAME])
         empty, _ = start_until_painted(empty_screen, Changes(empty_screen.display), place, [EMPTY, *place])
@@ -59,7 +57,11 @@ def main():
         game_screen.press(table, "Return")
         time.sleep(SETTLING)
         measure("idle", (game, empty), options.seconds)
-        game_screen.press(table, "space")  # minimises
+        # Without a window manager nothing is minimised.
+        game_screen.start("openbox", "--sm-disable", stderr=subprocess.DEVNULL)
+        time.sleep(2)
+        game_screen.press(table, "space")
+        wait_for("the table to go", lambda: not game_screen.find_window(TABLE_TITLE))
         time.sleep(SETTLING)
         measure("idle, minimised", (game, empty), options.seconds)
 

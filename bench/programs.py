@@ -22,7 +22,7 @@ WELCOME_FIRST = "ShowDialog=True\n"
 LOOKS = 16  # rows of the window that are looked at
 
 __all__ = ["EMPTY", "GAME", "TABLE_FIRST", "TABLE_TITLE", "WELCOME_FIRST", "WELCOME_TITLE", "Changes", "Screen", "arguments",
-           "is_painted", "place_of", "start_until_painted"]
+           "is_painted", "place_of", "start_until_painted", "wait_for"]
 
 
 def arguments(description, **numbers):

@@ -57,7 +57,7 @@ TEST(Gate, IsOpenBehindAModalWindowThatStandsInsideAHandler) {
     EventGate gate;
     std::string ran;
     QDialog dialog;
-    QTimer::singleShot(0, &dialog, [&] {
+    QTimer::singleShot(5, &dialog, [&] {
         gate.Run([&] { ran += "behind "; });
         dialog.close();
         gate.Run([&] { ran += "after "; });

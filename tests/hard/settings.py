@@ -17,7 +17,7 @@ NO_TRUTH = "0", "", "yes", "2.5", "True, False", "@ByteArray(True)", "\\x0"
 NO_NAME = "a, b", "@ByteArray(Ann)", "@Rect(1 2 3 4)"
 FIELDS = {
     "ShowDialog": ("True", "False", ()),  # or no table would open, and nothing be saved
-    "NumberOfDice": ("5", "4", ("6", "-4", "five", "@Invalid()", "99999999999999999999")),
+    "NumberOfDice": ("5", "4", ("6", "-4", "five", "99999999999999999999")),
     "NumberOfPlayers": ("1", "2", ("3", "0", "-1", "two", '" 2"', "1, 2")),
     "NumberOfColumns": ("4", "1", ("2", "7", "", "four", "-1")),
     "BGMusicVolume": ("500", "321", ("1001", "-1", "70 %", "loud", "1e9", "@Variant(x)")),
