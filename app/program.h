@@ -5,6 +5,7 @@
 #include "app/seeded_random.h"
 #include "core/game.h"
 #include "dialogs/window/qt_dialogs.h"
+#include "kit/held_keys.h"
 #include "kit/qt_clock.h"
 #include "kit/qt_timers.h"
 #include "kit/size_keys.h"
@@ -35,6 +36,7 @@ struct Program {
     MenuStyle menuStyle{art};
     frmLuckyCup window{gate, art};
     SizeKeys sizeKeys{window, StoreSize};
+    HeldKeys heldKeys;
     QtTimers timers{gate};
     QtClock clock;
     SeededRandom random;

@@ -47,11 +47,12 @@ def measure(what, programs, seconds):
 
 
 def main():
-    options = arguments(__doc__, seconds=(30, "length of each measurement"))
+    options = arguments(__doc__, seconds=(30, "length of each measurement"), music=(0, "1: the music plays meanwhile"))
+    settings = TABLE_FIRST + ("BGMusicEnabled=True\n" if options.music else "")
     os.environ["SDL_AUDIODRIVER"] = "dummy"  # sounds like a card, where there is none too
     with Screen() as game_screen, Screen() as empty_screen:
         place = place_of(game_screen, TABLE_TITLE, TABLE_FIRST)
-        game, _ = start_until_painted(game_screen, Changes(game_screen.display), place, [GAME])
+        game, _ = start_until_painted(game_screen, Changes(game_screen.display), place, [GAME], settings)
         empty, _ = start_until_painted(empty_screen, Changes(empty_screen.display), place, [EMPTY, *place])
         table = game_screen.find_window(TABLE_TITLE)
         game_screen.press(table, "Return")

@@ -71,7 +71,34 @@ void Shape::SetFill(QColor fill) {
 void Shape::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (fill_.isValid()) painter.fillRect(rect(), fill_);
+    if (fill_.isValid() && topLeftEdge_.isValid()) {
+        QLinearGradient sheen(0, 0, 0, height());
+        sheen.setColorAt(0, colour::sheen);
+        sheen.setColorAt(0.55, QColor(0, 0, 0, 0));
+        painter.fillRect(rect(), sheen);
+    }
     PaintEdges(painter, rect(), topLeftEdge_, bottomRightEdge_);
+}
+
+Well::Well(const QString& name, QWidget* parent, QColor fill) : QWidget(parent), fill_(fill) {
+    setObjectName(name);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Well::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect area = DeviceArea(painter, rect());
+    const qreal unit = Sized(DeviceScale(painter));
+    UseDevicePixels(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    QLinearGradient shadow(area.topLeft(), area.topLeft() + QPointF(0, 5 * unit));
+    shadow.setColorAt(0, colour::shade);
+    shadow.setColorAt(1, QColor(0, 0, 0, 0));
+    for (const QBrush& brush : {QBrush(fill_), QBrush(shadow)}) {
+        painter.setBrush(brush);
+        painter.drawRoundedRect(area, 4 * unit, 4 * unit);
+    }
 }
 
 TextLabel::TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment)
@@ -136,6 +163,7 @@ void PictureButton::paintEvent(QPaintEvent*) {
                             : marked_.value_or(underMouse()) ? looks_.underMouse
                                                              : looks_.plain;
     art_.Draw(painter, rect(), wanted.isEmpty() ? looks_.plain : wanted);
+    if (isEnabled() && !looks_.mark.isEmpty()) art_.Draw(painter, rect(), looks_.mark);
 }
 
 void PictureButton::enterEvent(QEnterEvent* event) {
@@ -163,7 +191,7 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
-    const qreal radius = Sized(6.0);
+    const qreal radius = Sized(4.5);  // covers the corners of the Roll button
     const qreal edge = Sized(2.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -16,6 +16,8 @@ inline constexpr QColor white{0xFF, 0xFF, 0xFF};
 inline constexpr QColor window{0xCD, 0xCD, 0xCD};
 inline constexpr QColor light{0xF6, 0xF6, 0xF6};
 inline constexpr QColor dark{0x7C, 0x7C, 0x7C};
+inline constexpr QColor softLight{0xEA, 0xEA, 0xEE};
+inline constexpr QColor softDark{0xA8, 0xA8, 0xB4};
 inline constexpr QColor rowPanel{0x60, 0x57, 0xAF};
 inline constexpr QColor rowFrame{0xA9, 0xA4, 0xDC};
 inline constexpr QColor box{0xBC, 0xCF, 0xEC};
@@ -27,7 +29,9 @@ inline constexpr QColor columnTotal{0xE4, 0xEC, 0xFA};
 inline constexpr QColor columnTotalText{0x00, 0x00, 0xC0};
 inline constexpr QColor sumLabel{0xCF, 0xD0, 0xE0};
 inline constexpr QColor tray{0x50, 0x50, 0x50};
-inline constexpr QColor trayEdge{0x3C, 0x3C, 0x3C};
+inline constexpr QColor rollGround{0x3C, 0x3C, 0x3C};
+inline constexpr QColor shade{0x00, 0x00, 0x10, 0x58};
+inline constexpr QColor sheen{0xC8, 0xC4, 0xF4, 0x3C};
 inline constexpr QColor satinHot{0xF4, 0xF8, 0xFF};
 inline constexpr QColor satinHigh{0xD5, 0xE3, 0xFB};
 inline constexpr QColor satinLow{0x9C, 0xBB, 0xF0};
@@ -51,7 +55,8 @@ QFont BoxFont();  // the families of boxes and totals; the rest is their parent'
 // The edge of an area, one device pixel wide. An invalid colour paints nothing.
 void PaintEdges(QPainter& painter, const QRect& area, const QColor& topLeft, const QColor& bottomRight);
 
-// A filled area with an edge; one that is nothing but a left or top edge is a line. Takes no mouse.
+// A filled area, with a sheen on its upper half where it has an edge; one that is nothing but a left or top edge is a
+// line. Takes no mouse.
 class Shape final : public QWidget {
 public:
     Shape(const QString& name, QWidget* parent, QColor fill, QColor topLeftEdge = {}, QColor bottomRightEdge = {});
@@ -62,6 +67,18 @@ protected:
 
 private:
     QColor fill_, topLeftEdge_, bottomRightEdge_;
+};
+
+// A ground with round corners, sunk so that its upper rim throws a soft shadow on it. Takes no mouse.
+class Well final : public QWidget {
+public:
+    Well(const QString& name, QWidget* parent, QColor fill);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor fill_;
 };
 
 struct LabelLook {
@@ -105,6 +122,7 @@ public:
     struct Looks {
         QString plain;
         QString underMouse{}, pressed{}, disabled{};
+        QString mark{};  // drawn on all but the disabled one
     };
 
     PictureButton(const QString& name, QWidget* parent, Art& art, const Looks& looks);

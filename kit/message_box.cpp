@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <algorithm>
 
@@ -40,10 +41,14 @@ const char* SpokenIcon(MessageIcon icon) {
     return "";
 }
 
+// One line stands beside the middle of the icon.
 void WrapText(const QMessageBox& box) {
     auto* label = box.findChild<QLabel*>("qt_msgbox_label");
     if (!label) return;
     label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    box.layout()->setAlignment(label, Qt::AlignLeft);
+    label->setMinimumHeight(Sized(iconSize.height()));
     label->setFixedWidth(std::min(Sized(textWidth), label->fontMetrics().horizontalAdvance(label->text()) + 2));
 }
 }  // namespace

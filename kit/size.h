@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSize>
+#include <QWidget>
 
 // How large everything that the program shows is, in per cent of the told places and sizes. It belongs to the look of
 // the program as a whole, as its font and its palette do. Who changes it for open windows calls ChangeSize.
@@ -11,6 +12,22 @@ void SetSize(int percent);  // one of the steps; any other is taken for toldSize
 
 bool IsSize(int percent);
 
+// A window that its screen could not hold at this size has one of its own, in which all that stands in it is shown.
+void SetSizeOf(QWidget& window, int percent);
+int SizeIn(const QWidget& widget);  // of its window, or else of the program
+
+// While it lives, the size is that of a window which has one of its own.
+class SizeWithin {
+public:
+    explicit SizeWithin(int percent) : before_(Size()) { SetSize(percent); }
+    ~SizeWithin() { SetSize(before_); }
+    SizeWithin(const SizeWithin&) = delete;
+    SizeWithin& operator=(const SizeWithin&) = delete;
+
+private:
+    int before_;
+};
+
 // So many pixels of the told size at the size that is now.
 int Sized(int pixels);
 qreal Sized(qreal pixels);
@@ -19,5 +36,5 @@ QSize Sized(QSize pixels);
 int SizedDown(int pixels);
 
 // The largest step up to the wanted one at which the inside of a window, which has so many pixels at the told size,
-// fits an area with the frame around it, which does not grow. The smallest step when none does.
-int FittingSize(int wanted, QSize inside, QSize frame, QSize area);
+// fits an area with the frame of a desktop around it, which does not grow. The smallest step when none does.
+int FittingSize(int wanted, QSize inside, QSize area);

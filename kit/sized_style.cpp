@@ -4,8 +4,13 @@
 
 #include "kit/size.h"
 
+namespace {
+int SizeFor(const QWidget* widget) { return widget ? SizeIn(*widget) : Size(); }
+}  // namespace
+
 int SizedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     const int told = QProxyStyle::pixelMetric(metric, option, widget);
+    const SizeWithin window(SizeFor(widget));
     switch (metric) {  // those that the style does not work out from each other
         case PM_ButtonMargin:
         case PM_CheckBoxLabelSpacing:
@@ -45,6 +50,7 @@ QIcon SizedStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
 QSize SizedStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                    const QWidget* widget) const {
     constexpr int leastButtonWidth = 80;
+    const SizeWithin window(SizeFor(widget));
     const QSize told = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type != CT_PushButton) return told;
     return {std::max(told.width(), Sized(leastButtonWidth)), told.height()};

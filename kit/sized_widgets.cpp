@@ -22,7 +22,16 @@ QRect Area(const QRect& twips) {
     return area;
 }
 
+void FitToScreen(QWidget& widget) {
+    const QVariant fixed = widget.property(fixedKey);
+    if (!widget.isWindow() || !fixed.isValid()) return;
+    constexpr int twipsPerPixel = 15;
+    const QSize inside = fixed.toSize() / twipsPerPixel;
+    SetSizeOf(widget, FittingSize(Size(), inside, widget.screen()->availableSize()));
+}
+
 void Keep(QWidget& widget) {
+    const SizeWithin window(SizeIn(widget));
     const QVariant place = widget.property(placeKey), fixed = widget.property(fixedKey);
     if (place.isValid()) widget.setGeometry(Area(place.toRect()));
     if (fixed.isValid()) widget.setFixedSize(Pixels(fixed.toSize().width()), Pixels(fixed.toSize().height()));
@@ -31,6 +40,7 @@ void Keep(QWidget& widget) {
 void KeepLetters(QWidget& widget) {
     const QVariant letters = widget.property(lettersKey);
     if (!letters.isValid()) return;
+    const SizeWithin window(SizeIn(widget));
     QFont font = widget.font();
     font.setPixelSize(SizedDown(letters.toInt()));
     widget.setFont(font);
@@ -49,19 +59,21 @@ void Put(QWidget& widget, const Place& place) {
 
 void FixSize(QWidget& widget, int width, int height) {
     widget.setProperty(fixedKey, QSize(width, height));
+    FitToScreen(widget);
     Keep(widget);
 }
 
 void SetLetters(QWidget& widget, QFont font, int pixels) {
     widget.setProperty(lettersKey, pixels);
-    font.setPixelSize(SizedDown(pixels));
     widget.setFont(font);
+    KeepLetters(widget);
 }
 
 void ChangeSize(int percent) {
     SetSize(percent);
     ApplyFonts();
     const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) FitToScreen(*widget);
     for (QWidget* widget : widgets) KeepLetters(*widget);
     for (QWidget* widget : widgets) Keep(*widget);
     for (QWidget* widget : widgets)

@@ -8,7 +8,8 @@
 
 // Where it stands in its parent. A place without width or height is a line, to which its end point belongs.
 void Put(QWidget& widget, const Place& place);
-// A fixed width and height, in twips. A window's is that of its inside.
+// A fixed width and height, in twips. A window's is that of its inside; one that its screen could not hold takes the
+// largest step at which it can for its own size.
 void FixSize(QWidget& widget, int width, int height);
 // A font, in letters of so many pixels at the told size.
 void SetLetters(QWidget& widget, QFont font, int pixels = 11);

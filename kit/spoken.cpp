@@ -3,11 +3,10 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 
-#include "kit/controls.h"
-
 namespace {
 constexpr const char* checkedProperty = "spokenChecked";
 constexpr const char* roleProperty = "spokenRole";
+constexpr const char* focusProperty = "spokenFocus";  // of a window: the control that a screen reader was led to
 
 QVariant Checked(const QObject& control) { return control.property(checkedProperty); }
 
@@ -25,13 +24,14 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         if (IsDecoration()) state.invisible = true;
+        if (widget()->window()->property(focusProperty).value<QWidget*>() == widget())
+            state.focusable = state.focused = true;
         return state;
     }
 
 private:
     bool IsDecoration() const {
-        const bool drawn = dynamic_cast<const Shape*>(widget()) || dynamic_cast<const Picture*>(widget());
-        return drawn && widget()->accessibleName().isEmpty();
+        return widget()->testAttribute(Qt::WA_TransparentForMouseEvents) && widget()->accessibleName().isEmpty();
     }
 };
 
@@ -54,8 +54,6 @@ public:
         QAccessible::State state = SpokenWidget::state();
         state.checkable = Checked(*widget()).isValid();
         state.checked = Checked(*widget()).toBool();
-        const auto* picture = dynamic_cast<const PictureButton*>(widget());
-        if (picture && picture->Marked()) state.focusable = state.focused = true;
         return state;
     }
 
@@ -107,6 +105,7 @@ void SayChecked(QWidget& control, bool checked) {
 }
 
 void SayFocus(QWidget& control) {
+    control.window()->setProperty(focusProperty, QVariant::fromValue(&control));
     if (!QAccessible::isActive()) return;
     QAccessibleEvent event(&control, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);

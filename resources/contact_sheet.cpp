@@ -30,6 +30,7 @@ QColor Ground(const QString& name) {
     if (name.startsWith("box_") || name.startsWith("row_")) return 0x909090;
     if (name.startsWith("digit_") || name.startsWith("counter_")) return 0x10307A;
     if (name.startsWith("lamp_")) return 0x1D3A7A;
+    if (name.startsWith("mark_")) return 0x6690DC;
     if (name == "smile") return 0x003366;
     return 0xCDCDCD;
 }

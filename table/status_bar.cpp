@@ -12,8 +12,8 @@ namespace {
 
 // Twips, of the whole frame.
 int WindowHeight(const GameSettings& settings) {
-    if (TwoPlayers(settings)) return FourColumns(settings) ? 8530 : 8300;
-    if (FourColumns(settings)) return settings.ShowStatusBar ? 8530 : 8300;
+    if (TwoPlayers(settings)) return FourColumns(settings) ? tallestWindow : 8300;
+    if (FourColumns(settings)) return settings.ShowStatusBar ? tallestWindow : 8300;
     return settings.ShowStatusBar ? 8270 : 8030;
 }
 

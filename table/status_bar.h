@@ -2,6 +2,8 @@
 
 #include "core/game.h"
 
+inline constexpr int tallestWindow = 8530;  // twips, of the whole frame: Yamb with a status bar
+
 struct StatusBarState {
     int rollDiceTicks = 0;
     bool gameOverRunning = false;  // the pause before the moving message is over

@@ -1,8 +1,10 @@
 #!/usr/bin/python3
 """browser.py PROGRAM: plays on the page for a browser in a real one, Debian's chromium, by its debugging protocol.
+browser.py ADDRESS: the same on a page that ./play shows to a new user, and there a whole game, by mouse and by keys, to
+the hall of fame. Leaves browser-*.png, pictures of what it has met.
 
-Needs the Debian packages under [browser] in packages.txt, chromium, python3-websocket and iproute2. Not among the tests
-of ctest, for the browser's size; run it by hand when something in packaging/browser/ has changed."""
+Needs the Debian packages under [browser] and [browser-test] in packages.txt. Not among the tests of ctest, for the
+browser's size; run it by hand when something in packaging/browser/ has changed."""
 
 import base64
 import json
@@ -25,7 +27,9 @@ SERVE = pathlib.Path(__file__).parent.parent / "packaging/browser/serve"
 QUIET = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-sync",
          "--disable-background-networking", "--disable-component-update", "--force-device-scale-factor=1"]
 SCREEN = 640, 600  # the page has this size, so that a place in the picture is one on the screen
-KEYS = {"Enter": (13, "\r"), "Escape": (27, ""), "F2": (113, ""), " ": (32, " ")}
+KEYS = {"Enter": (13, "\r"), "Escape": (27, ""), "F2": (113, ""), " ": (32, " "), "1": (49, "1"), "ArrowDown": (40, "")}
+CODES = {" ": "Space", "1": "Digit1"}
+CONTROL = {"key": "Control", "code": "ControlLeft", "windowsVirtualKeyCode": 17}
 
 
 class Browser:
@@ -66,6 +70,9 @@ class Browser:
     def message(self):
         return self.value("document.getElementById('message')?.hidden ? '' : document.body.innerText.trim()")
 
+    def keep(self, name):
+        pathlib.Path(f"browser-{name}.png").write_bytes(self.picture())
+
     def picture(self, x=0, y=0, width=SCREEN[0], height=SCREEN[1]):
         clip = {"x": x, "y": y, "width": width, "height": height, "scale": 1}
         return base64.b64decode(self.ask("Page.captureScreenshot", format="png", clip=clip)["data"])
@@ -81,10 +88,14 @@ class Browser:
 
     def press(self, key):
         code, text = KEYS[key]
-        names = {"key": key, "code": {" ": "Space"}.get(key, key), "windowsVirtualKeyCode": code}
+        names = {"key": key, "code": CODES.get(key, key), "windowsVirtualKeyCode": code}
         self.ask("Input.dispatchKeyEvent", type="keyDown", text=text, **names)
         self.ask("Input.dispatchKeyEvent", type="keyUp", **names)
 
+    def press_with_control(self, key):
+        self.ask("Input.dispatchKeyEvent", type="keyDown", **CONTROL)
+        self.press(key)
+        self.ask("Input.dispatchKeyEvent", type="keyUp", **CONTROL)
 
     def drag(self, x, y, right, down):
         self.mouse("mouseMoved", x, y)
@@ -98,7 +109,9 @@ class Browser:
 EVERYTHING = 0, 0, *SCREEN
 WINDOW = 160, 20, 320, 545
 DICE = 168, 435, 190, 125
+BOARD = 168, 98, 300, 300
 BOXES = 303, 98, 165, 300
+FIRST_BOX, BOX_WIDTH, BOX_TOPS = (327, 110), 40, [0, 17, 34, 51, 68, 85, 126, 143, 184, 201, 218, 235, 252]
 FIRST_DIE, CUP, FREE_COLUMN_ONES, DESK = (200, 465), (415, 490), (395, 110), (20, 300)
 BESIDE = 20, 300, 100, 100
 SETTINGS = "[General]\nNumberOfDice=5\nNumberOfColumns=4\nShowDialog=False\nShowSplash=False\nShowStatusBar=False\n"
@@ -121,6 +134,15 @@ CHANGED = f"""(() => {{
     return box.join(" ");
 }})()"""
 
+# How much of the picture has the colour of the hall of fame's rows.
+PALE_ROWS = f"""(() => {{
+    {PICTURE}
+    let count = 0;
+    for (let i = 0; i < now.length; i += 4)
+        if ([239, 255, 210].every((part, colour) => Math.abs(now[i + colour] - part) < 8)) ++count;
+    return count;
+}})()"""
+
 
 def still(browser, place):
     def stands():
@@ -131,13 +153,17 @@ def still(browser, place):
     return browser.picture(*place)
 
 
-def shows(browser, what, place, action):
+def change(browser, what, place, action):
     """Does it, and waits until that part of the picture has changed and stands still again."""
     before = still(browser, place)
     action()
     wait_for(what, lambda: browser.picture(*place) != before)
-    print("  " + what)
     return still(browser, place)
+
+
+def shows(browser, what, place, action):
+    change(browser, what, place, action)
+    print("  " + what)
 
 
 def holds(truth, what):
@@ -176,6 +202,29 @@ def ask_and_move(browser):
     wait_for("the table as it was", lambda: not changed(browser))
 
 
+def play_whole_game(browser):
+    """As a new user, whom the welcome meets before a table of four columns."""
+    shows(browser, "Enter leaves the welcome for the table", EVERYTHING, lambda: browser.press("Enter"))
+    for column, rows in enumerate([range(13), range(12, -1, -1)]):
+        for row in rows:
+            box = FIRST_BOX[0] + column * BOX_WIDTH, FIRST_BOX[1] + BOX_TOPS[row]
+            change(browser, f"a roll for row {row}", DICE, lambda: browser.click(*CUP))
+            change(browser, f"row {row} written", BOXES, lambda: browser.click(*box))
+    print("  the mouse fills two columns")
+    for turn in range(26):
+        change(browser, f"roll {turn} by a key", DICE, lambda: browser.press("Enter"))
+        if turn == 0:  # from here on a mark goes from box to box by itself
+            shows(browser, "an arrow marks a box", BOARD, lambda: browser.press("ArrowDown"))
+            browser.keep("table")
+        # A box of the last column is announced by the first press, and written by the second.
+        change(browser, f"box {turn} by a key", BOXES, lambda: [browser.press_with_control("Enter") for _ in range(2)])
+    print("  keys fill the other two")
+    shows(browser, "Enter finishes the game", EVERYTHING, lambda: browser.press("Enter"))
+    browser.keep("hall-of-fame")
+    holds(browser.value(PALE_ROWS) > 100000, "the hall of fame is on the table")
+    shows(browser, "Enter leaves it", BOARD, lambda: browser.press("Enter"))
+
+
 def stay_out(browser, address, port):
     for wrong, answer in [("", "password is missing"), ("#password=12345678", "not that of the game")]:
         browser.open(address.split("#")[0] + wrong)
@@ -212,30 +261,46 @@ def serve(folder, program):
     return served, address[0], int(address[1])
 
 
+def play_where_told(browser, address):
+    stay_out(browser, address, int(address.split(":")[2].split("/")[0]))
+    browser.open(address)
+    wait_for("the welcome", lambda: browser.message() == "")
+    play_whole_game(browser)
+
+
+def serve_and_play(browser, program, folder):
+    served, address, port = serve(folder, program)
+    try:
+        stay_out(browser, address, port)
+        browser.open(address)
+        wait_for("the table", lambda: browser.message() == "")
+        holds(browser.value("document.title") == "Lucky Cup", "the page has the name of the game")
+        play(browser)
+        ask_and_move(browser)
+        os.killpg(served.pid, signal.SIGINT)  # as the terminal does
+        holds(served.wait(20) == 130, "Ctrl+C ends it")
+        holds(not processes(served.pid), "nothing of it runs on")
+        holds(os.listdir(pathlib.Path(folder, f"luckycup-browser-{os.getuid()}")) == ["lock"], "no secret is left")
+        wait_for("'has ended'", lambda: "has ended" in (browser.message() or ""))
+    finally:
+        if served.poll() is None:
+            os.killpg(served.pid, signal.SIGTERM)
+            served.wait()
+
+
 def main():
-    program = sys.argv[1]
+    target = sys.argv[1]
     with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as profile:
         browser = Browser(profile)
-        served, address, port = serve(folder, program)
         try:
-            stay_out(browser, address, port)
-            browser.open(address)
-            wait_for("the table", lambda: browser.message() == "")
-            holds(browser.value("document.title") == "Lucky Cup", "the page has the name of the game")
-            play(browser)
-            ask_and_move(browser)
-            os.killpg(served.pid, signal.SIGINT)  # as the terminal does
-            holds(served.wait(20) == 130, "Ctrl+C ends it")
-            holds(not processes(served.pid), "nothing of it runs on")
-            holds(os.listdir(pathlib.Path(folder, f"luckycup-browser-{os.getuid()}")) == ["lock"], "no secret is left")
-            wait_for("'has ended'", lambda: "has ended" in (browser.message() or ""))
+            if target.startswith("http://"):
+                play_where_told(browser, target)
+            else:
+                serve_and_play(browser, target, folder)
         except BaseException:
-            pathlib.Path("browser-failure.png").write_bytes(browser.picture())
+            browser.keep("failure")
             raise
         finally:
-            if served.poll() is None:
-                os.killpg(served.pid, signal.SIGTERM)
-                served.wait()
             browser.close()
     print("browser: passed")
 

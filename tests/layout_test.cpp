@@ -1,7 +1,6 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
-#include <sstream>
 
 #include "core/hints.h"
 #include "kit/size.h"
@@ -49,10 +48,8 @@ std::vector<Told> ToldFor(const GameSettings& settings) {
     return told;
 }
 
-std::string Written(const QRect& area) {
-    std::ostringstream text;
-    text << area.x() << ',' << area.y() << ' ' << area.width() << " x " << area.height();
-    return text.str();
+QString Written(const QRect& area) {
+    return QString("%1,%2 %3 x %4").arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
 }
 
 // Frames whose places follow from those of labels and boxes, panels that share the bar, and what the toolbar and the

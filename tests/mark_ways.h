@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "table/box_mark.h"
+#include "table/presses.h"
 
 using MarkWay = std::pair<Box, std::deque<Direction>>;
 
@@ -17,7 +18,7 @@ inline std::vector<MarkWay> WaysTo(const Game& game, const Box& wanted) {
     for (std::size_t i = 0; i < ways.size(); ++i) {
         for (int place = 0; place < boxCount; ++place) {
             const Box box{allColumns[static_cast<std::size_t>(place / rowCount)], place % rowCount};
-            if (!game.card[box.column].offered[box.row] || known(box)) continue;
+            if (!BoxOpen(game, box.column, box.row) || known(box)) continue;
             for (Direction step : directions) {
                 if (NextOpenBox(game, box, step) != ways[i].first || known(box)) continue;
                 std::deque<Direction> way = ways[i].second;

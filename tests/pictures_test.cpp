@@ -1,83 +1,65 @@
+#include "table/row_names.h"
+#include "table/set_controls.h"
 #include "tests/window_table.h"
 
 namespace {
 
-using T = WindowTable&;
-
-QImage Grab(T t, const char* control) {
+QImage Grab(const WindowTable& t, const QString& control) {
     const QWidget& widget = t.At(control);
-    return t.window.grab(QRect(widget.mapTo(&t.window, QPoint(0, 0)), widget.size())).toImage();
+    return widget.window()->grab(QRect(widget.mapTo(&t.window, QPoint(0, 0)), widget.size())).toImage();
 }
 
-void Hover(T t, const char* control) { t.Move(*t.FreePoint(t.At(control))); }
-
-// Presses the mouse on the control; Release comes off it first, so that no click comes of it.
-void Press(T t, const char* control) {
-    QTest::mousePress(t.window.windowHandle(), Qt::LeftButton, {}, *t.FreePoint(t.At(control)));
+// The states of a control that its picture alone tells apart, as they come. mouse: then those under the mouse, pressed.
+void ExpectApart(WindowTable& t, const QString& control, std::vector<std::function<void()>> states,
+                 bool mouse = false) {
+    QWindow* window = t.window.windowHandle();
+    const auto middle = [&] { return *t.FreePoint(t.At(control)); };
+    if (mouse) states.push_back([&] { t.Move(middle()); });
+    if (mouse) states.push_back([&] { QTest::mousePress(window, Qt::LeftButton, {}, middle()); });
+    QList<QImage> seen;
+    for (const auto& make : states) {
+        make();
+        const QImage picture = Grab(t, control);
+        EXPECT_TRUE(picture == Grab(t, control)) << control.toStdString() << " changes by itself";
+        const auto like = seen.indexOf(picture);
+        EXPECT_EQ(like, -1) << control.toStdString() << ": state " << seen.size() << " looks like state " << like;
+        seen.append(picture);
+    }
+    if (mouse) QTest::mouseRelease(window, Qt::LeftButton, {}, {2, 100});  // off the control: no click comes of it
 }
-void Release(T t) { QTest::mouseRelease(t.window.windowHandle(), Qt::LeftButton, {}, QPoint(2, 100)); }
-
-// A control and the states that its picture alone tells from each other, in the order in which they come.
-struct Looks {
-    const char* control;
-    int variant;
-    std::vector<void (*)(T)> states;
-};
-
-const Looks allLooks[] = {
-    {"picDice_0",
-     0,
-     {[](T t) { t.window.ShowDieFace(0, 4); }, [](T t) { t.window.ShowRollingFace(0, 3); },
-      [](T t) { t.window.ShowDieFace(0, 5); }, [](T t) { t.window.ShowDieHeld(0); },
-      [](T t) { t.window.ShowDieFace(0, 6); }}},
-    {"picRollDices",
-     0,
-     {[](T) {}, [](T t) { t.window.SetRollPicture(RollPicture::On); },
-      [](T t) { t.window.SetRollPicture(RollPicture::Off); }, [](T t) { t.window.ShowNextPlayer(true); },
-      [](T t) { t.window.ShowNextBoardButton(true, true); }, [](T t) { Hover(t, "cmdShowNextBoard"); },
-      [](T t) { Press(t, "cmdShowNextBoard"); }}},
-    {"picRound_1", 0, {[](T t) { t.window.SetLamps(1); }, [](T t) { t.window.SetLamps(2); }}},
-    {"cmdDown_3",
-     0,
-     {[](T) {}, [](T t) { t.window.EnableBoxButton(ScoreColumn::Down, 3, true); }, [](T t) { Hover(t, "cmdDown_3"); },
-      [](T t) { Press(t, "cmdDown_3"); },
-      [](T t) {
-          Release(t);
-          t.window.SetBoxText(ScoreColumn::Down, 3, "12");
-          t.window.ShowBoxButton(ScoreColumn::Down, 3, false);
-      }}},
-    {"cmdRand_3",
-     4,
-     {[](T t) { t.window.EnableBoxButton(ScoreColumn::Rand, 3, true); }, [](T t) { Hover(t, "cmdRand_3"); },
-      [](T t) { Press(t, "cmdRand_3"); },
-      [](T t) {
-          Release(t);
-          t.window.ShowBoxButton(ScoreColumn::Rand, 3, false);
-      }}},
-    {"lblOption_5", 0, {[](T) {}, [](T t) { t.window.HighlightRowLabel(5); }}},
-    {"lblTip_5", 0, {[](T) {}, [](T t) { t.window.SetTipText(5, "30"); }, [](T t) { t.window.ShowTipColumn(false); }}},
-    {"tbUndo",
-     0,
-     {[](T) {}, [](T t) { t.window.SetUndoEnabled(true); }, [](T t) { Hover(t, "tbUndo"); },
-      [](T t) { Press(t, "tbUndo"); }}},
-    {"tbSound", 0, {[](T) {}, [](T t) { t.window.ShowChoice(MenuChoice::Sounds, false); }}},
-    {"tbBGmusic", 0, {[](T) {}, [](T t) { t.window.ShowChoice(MenuChoice::Music, true); }}},
-    {"imgArrow", 0, {[](T) {}, [](T t) { t.window.LayOut(1, 5); }}},
-};
 
 TEST(Pictures, TellTheStatesOfAControlFromEachOther) {
-    for (const Looks& looks : allLooks) {
-        WindowTable t(VariantOf(looks.variant));
-        QList<QImage> seen;
-        for (const auto make : looks.states) {
-            make(t);
-            const QImage picture = Grab(t, looks.control);
-            EXPECT_TRUE(picture == Grab(t, looks.control)) << looks.control << " changes by itself";
-            const auto like = seen.indexOf(picture);
-            EXPECT_EQ(like, -1) << looks.control << ": state " << seen.size() << " looks like state " << like;
-            seen.append(picture);
-        }
-        Release(t);
+    WindowTable t;
+    frmLuckyCup& w = t.window;
+    const auto open = [&](ScoreColumn column) { w.ShowBoxButton(column, 3, true), w.EnableBoxButton(column, 3, true); };
+    using enum ScoreColumn;
+    ExpectApart(t, "picDice_0",
+                {[&] { w.ShowDieFace(0, 4); }, [&] { w.ShowRollingFace(0, 3); }, [&] { w.ShowDieFace(0, 5); },
+                 [&] { w.ShowDieHeld(0); }, [&] { w.ShowDieFace(0, 6); }});
+    ExpectApart(t, "picRound_1", {[&] { w.SetLamps(1); }, [&] { w.SetLamps(2); }});
+    ExpectApart(t, "picRollDices",
+                {[] {}, [&] { w.SetRollPicture(RollPicture::On); }, [&] { w.SetRollPicture(RollPicture::Off); },
+                 [&] { w.ShowNextPlayer(true); }, [&] { w.ShowNextBoardButton(true, true); }});
+    ExpectApart(t, "cmdShowNextBoard", {[] {}}, true);
+    w.SetBoxText(Down, 3, "12");
+    ExpectApart(t, "cmdDown_3", {[] {}, [&] { w.ShowBoxButton(Down, 3, false); }, [&] { open(Down); }}, true);
+    ExpectApart(t, "lblOption_5", {[] {}, [&] { w.HighlightRowLabel(5); }});
+    ExpectApart(t, "lblTip_5", {[] {}, [&] { w.SetTipText(5, "30"); }, [&] { w.ShowTipColumn(false); }});
+    ExpectApart(t, "tbUndo", {[] {}, [&] { w.SetUndoEnabled(true); }}, true);
+    ExpectApart(t, "tbSound", {[] {}, [&] { w.ShowChoice(MenuChoice::Sounds, false); }});
+    ExpectApart(t, "tbBGmusic", {[] {}, [&] { w.ShowChoice(MenuChoice::Music, true); }});
+    t.game.settings.NumberOfColumns = 1;
+    ExpectApart(t, "imgArrow", {[] {}, [&] { SetControls(t.game); }});
+    ExpectApart(t, "cmdRand_3", {[&] { w.ShowBoxButton(Rand, 3, false); }, [&] { open(Rand); }}, true);
+}
+
+TEST(Pictures, OfOpenBoxesTellTheirColumns) {
+    WindowTable t;
+    QList<QImage> seen;
+    for (ScoreColumn column : allColumns) {
+        t.window.EnableBoxButton(column, 3, true);
+        seen.append(Grab(t, QString("cmd%1_3").arg(ColumnName(column))));
+        EXPECT_EQ(seen.indexOf(seen.back()), seen.size() - 1) << ColumnName(column);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "app/tick.h"
 #include "core/hints.h"
 #include "core/show.h"
+#include "kit/pointers.h"
 #include "kit/size_keys.h"
 #include "kit/sized_style.h"
 #include "kit/sized_widgets.h"
@@ -58,7 +59,7 @@ QImage Picture(QWidget& window) {
 
 // A window that was brought to a size, by way of others, looks as one that was opened at it and played alike.
 TEST_F(Sizes, LookTheSameWhicheverWayTheyWereComeBy) {
-    constexpr int sizes[] = {200, 300, 75, 125, 100};
+    constexpr int sizes[] = {200, 300, 75, 225, 100, 275, 125, 250, 150, 175};
     for (const int variant : {0, 7})
         for (const auto& [name, play] : moments) {
             std::vector<QImage> opened;
@@ -97,21 +98,22 @@ TEST_P(Windows, FollowAndAreReachable) {
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->objectName() == name && window->isVisible()) t.answer(*window);
     };
-    for (const int percent : {300, 75, 150}) {
+    for (int percent = smallestSize; percent <= largestSize; percent += sizeStep) {
         ChangeSize(toldSize);
         QImage followed;
         visit([&](QWidget& window) {
             ChangeSize(percent);
             followed = Picture(window);
-            const QRect screen = window.screen()->availableGeometry();
-            EXPECT_TRUE(screen.contains(window.frameGeometry().topLeft())) << percent;
+            EXPECT_TRUE(window.screen()->availableGeometry().contains(window.frameGeometry())) << percent;
         });
         visit([&](QWidget& window) {
             EXPECT_TRUE(Picture(window) == followed) << percent;
-            EXPECT_TRUE(window.screen()->availableGeometry().contains(window.frameGeometry().topLeft())) << percent;
+            EXPECT_TRUE(window.screen()->availableGeometry().contains(window.frameGeometry())) << percent;
             for (const auto* button : window.findChildren<QAbstractButton*>()) {
                 const int text = button->fontMetrics().horizontalAdvance(button->text());
                 EXPECT_TRUE(button->isHidden() || button->width() >= text) << percent;
+                const int pointer = button->cursor().pixmap().width();
+                EXPECT_TRUE(pointer == 0 || pointer == qRound(0.32 * percent)) << percent;
             }
         });
         EXPECT_FALSE(followed.isNull());
@@ -145,12 +147,8 @@ TEST_F(Sizes, AreChosenByKeysAndWheel) {
 }
 
 TEST_F(Sizes, AtTheStartFitTheScreen) {
-    const struct {
-        int wanted;
-        QSize screen;
-        int fits;
-    } starts[] = {
-        {100, {1920, 1080}, 100}, {200, {1920, 1080}, 200}, {225, {1920, 1080}, 200}, {300, {3840, 2160}, 300},
+    const std::tuple<int, QSize, int> starts[] = {
+        {100, {1920, 1080}, 100}, {200, {1920, 1080}, 175}, {225, {1920, 1200}, 200}, {300, {3840, 2160}, 300},
         {100, {911, 512}, 75},    {150, {1366, 768}, 125},  {100, {1366, 768}, 100},  {300, {400, 2160}, 100},
         {100, {640, 480}, 75},    {100, {200, 150}, 75},    {0, {1920, 1080}, 100},   {110, {1920, 1080}, 100},
         {-75, {800, 600}, 100},   {400, {3840, 2160}, 100},
@@ -158,16 +156,29 @@ TEST_F(Sizes, AtTheStartFitTheScreen) {
     for (const auto& [wanted, screen, fits] : starts)
         EXPECT_EQ(SizeAtStart(wanted, screen), fits) << wanted << " on " << screen.width();
 
+    const QSize yamb = WindowTable(VariantOf(0)).window.size() * 2 + QSize(10, 38);
+    EXPECT_EQ(SizeAtStart(200, yamb), 200);
+    EXPECT_EQ(SizeAtStart(200, yamb - QSize(0, 1)), 175);
+    const QSize hallOfFame(433, 540);
+    EXPECT_EQ(FittingSize(200, hallOfFame, {1920, 1080}), 175);
+
     const QRect screen(100, 30, 800, 600);
-    const struct {
-        QRect frame;
-        QPoint place;
-    } frames[] = {{{200, 100, 327, 540}, {200, 90}},
-                  {{850, 40, 327, 540}, {573, 40}},
-                  {{-9, -13, 327, 540}, {100, 30}},
-                  {{200, 100, 900, 700}, {100, 30}},
-                  {{400, 500, 327, 700}, {400, 30}}};
+    const std::pair<QRect, QPoint> frames[] = {{{200, 100, 327, 540}, {200, 90}},
+                                               {{850, 40, 327, 540}, {573, 40}},
+                                               {{-9, -13, 327, 540}, {100, 30}},
+                                               {{200, 100, 900, 700}, {100, 30}},
+                                               {{400, 500, 327, 700}, {400, 30}}};
     for (const auto& [frame, place] : frames) EXPECT_EQ(IntoView(frame, screen), place) << frame.x();
+}
+
+TEST_F(Sizes, ArePointersToo) {
+    QWidget window;
+    for (int percent = smallestSize; percent <= largestSize; percent += sizeStep) {
+        SetSize(percent);
+        SetBasePointer(window, QFileInfo(HELP_FILE).path() + "/../");
+        EXPECT_EQ(window.cursor().pixmap().width(), qRound(0.32 * percent));
+        EXPECT_NEAR(window.cursor().hotSpot().x(), 0.015 * percent, 1) << percent;
+    }
 }
 
 TEST_F(Sizes, AreKeptBesideWhatElseStandsInTheFile) {

@@ -215,7 +215,8 @@ void TwinTables::PlayInWindow(const ScriptLine& line) {
     for (const Way& way : ways)
         if (way.command == line.Command() || way.command == line.text) open.push_back(&way);
     ASSERT_FALSE(open.empty()) << line.text;
-    if (hands_ == Hands::Keys && open.size() > 1) std::erase_if(open, [](const Way* way) { return !way->byKey; });
+    if (hands_ != Hands::Both && open.size() > 1)
+        std::erase_if(open, [this](const Way* way) { return way->byKey != (hands_ == Hands::Keys); });
     open[static_cast<std::size_t>(events_++) % open.size()]->go(*window, line);
     if (line.Command() == "hover")
         hovered_ = line.RestFrom(1);

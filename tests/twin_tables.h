@@ -7,7 +7,7 @@
 // event all that can be seen in the window is held against what the other table tells.
 class TwinTables {
 public:
-    enum class Hands { Both, Keys };
+    enum class Hands { Both, Keys, Mouse };
 
     explicit TwinTables(Hands hands = Hands::Both);
 

@@ -1,6 +1,8 @@
 #include "dialogs/window/dialog_window.h"
 
+#include <QEvent>
 #include <QScreen>
+#include <utility>
 
 #include "kit/controls.h"
 #include "kit/pointers.h"
@@ -23,9 +25,18 @@ void DialogWindow::PlaceOver(const QWidget& window, int twipsBelow, double share
     move(IntoView({place, frame}, window.screen()->availableGeometry()));
 }
 
-void DialogWindow::SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable) {
-    SetBasePointer(*this, QString::fromStdString(game.session.AppPath));
-    for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
+void DialogWindow::SetPointers(const Game& game, Art& art, std::vector<QWidget*> clickable) {
+    const QString folder = QString::fromStdString(game.session.AppPath);
+    setPointers_ = [this, folder, &art, clickable = std::move(clickable)] {
+        SetBasePointer(*this, folder);
+        for (QWidget* widget : clickable) widget->setCursor(HandPointer(art, devicePixelRatioF()));
+    };
+    setPointers_();
+}
+
+void DialogWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::StyleChange && setPointers_) setPointers_();
 }
 
 void BringToFront(QWidget& window) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
+#include <vector>
 
 #include "core/game.h"
 #include "kit/art.h"
@@ -19,7 +21,13 @@ public:
     // The same over any window, but not off its screen. share: how much of the difference in height lies above this
     // window.
     void PlaceOver(const QWidget& window, int twipsBelow = 0, double share = 0.5);
-    void SetPointers(const Game& game, Art& art, std::initializer_list<QWidget*> clickable);
+    void SetPointers(const Game& game, Art& art, std::vector<QWidget*> clickable);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    std::function<void()> setPointers_;  // once more, at another size
 };
 
 // Opens the window, or brings the open one to the front.

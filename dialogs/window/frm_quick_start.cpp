@@ -38,7 +38,9 @@ void SetColours(QTextBrowser& view) {
 }  // namespace
 
 frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& game, Art& art)
-    : DialogWindow(owner, "frmQuickStart", "Quick Start", 9705, 6030), art_(art), RichTextBox1_(new QTextBrowser) {
+    : DialogWindow(owner, "frmQuickStart", "Quick Start", 9705, 6030),
+      art_(art),
+      RichTextBox1_(new QTextBrowser(this)) {
     setAttribute(Qt::WA_QuitOnClose, false);
     RichTextBox1_->setObjectName("RichTextBox1");
     RichTextBox1_->setAccessibleName("Quick-start guide");
@@ -63,6 +65,7 @@ frmQuickStart::frmQuickStart(const QWidget& over, QWidget* owner, const Game& ga
 }
 
 void frmQuickStart::ShowGuide() {
+    const SizeWithin window(SizeIn(*this));
     auto* guide = new ArtDocument(art_, {devicePixelRatioF(), Sized(1.0)}, TableFont(false, textFont), onGround,
                                   Guide("smile"), RichTextBox1_);
     constexpr int margin = 14;

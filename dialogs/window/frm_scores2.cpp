@@ -28,6 +28,8 @@ struct ScoresLayout {
 constexpr ScoresLayout viewerLayout{6390, 7040, 7100, 7860};
 constexpr ScoresLayout resultLayout{7015, 7650, 7720, 8500};
 
+const ScoresLayout& LayoutOf(const ScoresForm& form) { return form.lblScoreVisible ? resultLayout : viewerLayout; }
+
 template <typename Control>
 Control* Named(const char* name, QWidget* parent) {
     auto* control = new Control(parent);
@@ -51,7 +53,7 @@ void SetColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) 
 frmScores2::frmScores2(QWidget& owner, Game& game, Art& art)
     : DialogWindow(owner, "frmScores2", "Lucky Cup - Hall of Fame", formWidth, viewerLayout.height - titleHeight),
       game_(game),
-      model_(this, art, devicePixelRatioF()),
+      model_(*this, art, devicePixelRatioF()),
       SSTab1_(Named<QTabWidget>("SSTab1", this)),
       LVScores_(Named<QTableView>("LVScores", SSTab1_)),
       lblScore_(Named<QLabel>("lblScore", this)),
@@ -60,13 +62,14 @@ frmScores2::frmScores2(QWidget& owner, Game& game, Art& art)
       Check1_(Named<QCheckBox>("Check1", this)) {
     PlaceOverOwner();
     SetPointers(game, art, {cmdClearTable_, cmdReturn_});
+    form_ = frmScores2_Load(game);
+    FixSize(*this, formWidth, LayoutOf(form_).height - titleHeight);
     MakeTabs();
     MakeList();
     cmdClearTable_->setText("&Clear Table");
     cmdReturn_->setText("&Return");
     cmdReturn_->setDefault(true);
     Check1_->setText("&Show Grid Lines");
-    form_ = frmScores2_Load(game);
     Check1_->setChecked(form_.Check1);
     LVScores_->setShowGrid(form_.Check1);
     SSTab1_->setCurrentIndex(form_.tab);
@@ -116,7 +119,7 @@ void frmScores2::MakeResult() {
 }
 
 void frmScores2::LayOut() {
-    const ScoresLayout& layout = form_.lblScoreVisible ? resultLayout : viewerLayout;
+    const ScoresLayout& layout = LayoutOf(form_);
     constexpr int left = 40, top = 6280, right = 6440;
     const Place lines[] = {{left, top, right - left, 0},
                            {left, top, 0, layout.linesBottom - top},
@@ -130,10 +133,10 @@ void frmScores2::LayOut() {
     Put(*cmdClearTable_, {132, layout.buttonsTop, 2000, 555});
     Put(*cmdReturn_, {4362, layout.buttonsTop, 2000, 555});
     Put(*Check1_, {40, layout.check1Top, 2925, 285});
-    FixSize(*this, formWidth, layout.height - titleHeight);
 }
 
 void frmScores2::FitToSize() {
+    const SizeWithin window(SizeIn(*this));
     FitTabs();
     FitResult();
     FitList();

@@ -18,6 +18,7 @@
 #include "kit/pointers.h"
 #include "kit/size.h"
 #include "kit/sized_widgets.h"
+#include "kit/spoken.h"
 
 namespace {
 constexpr const char* title = "Lucky Cup Help";
@@ -54,9 +55,15 @@ std::unique_ptr<HelpWindow> OpenHelp(const QString& programFolder, const QString
 }
 
 HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& art)
-    : art_(art), html_(html), text_(new QTextBrowser), contents_(new QTreeWidget), find_(new QLineEdit) {
+    : programFolder_(programFolder),
+      art_(art),
+      html_(html),
+      text_(new QTextBrowser),
+      contents_(new QTreeWidget),
+      find_(new QLineEdit) {
     setObjectName("Help");
     setWindowTitle(title);
+    SetRole(*this, QAccessible::Window);
     setAttribute(Qt::WA_QuitOnClose, false);
     SetLetters(*this, TableFont(false));
     resize(Sized(roomySize).boundedTo(screen()->availableSize()));
@@ -78,7 +85,7 @@ HelpWindow::HelpWindow(const QString& programFolder, const QString& html, Art& a
         find_->selectAll();
     });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    SetBasePointer(*this, programFolder);
+    SetPointers();
     text_->setFocus();
 }
 
@@ -90,21 +97,26 @@ void HelpWindow::FitToSize() {
     find_->setFixedWidth(Sized(contentsWidth));
 }
 
+void HelpWindow::SetPointers() {
+    SetBasePointer(*this, programFolder_);
+    for (auto* button : findChildren<QPushButton*>()) button->setCursor(HandPointer(art_, devicePixelRatioF()));
+}
+
 void HelpWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::StyleChange) FitToSize();
+    if (event->type() != QEvent::StyleChange) return;
+    FitToSize();
+    SetPointers();
 }
 
 QLayout* HelpWindow::MakeBar() {
     auto* bar = new QHBoxLayout;
-    const QCursor hand = HandPointer(art_, devicePixelRatioF());
     const auto add = [&](const char* name, const char* caption, const char* tip, QKeySequence::StandardKey key,
                          auto click) {
         auto* button = new QPushButton(caption);
         button->setObjectName(name);
         button->setToolTip(QString("%1 (%2)").arg(tip, QKeySequence(key).toString(QKeySequence::NativeText)));
         button->setAccessibleName(tip);
-        button->setCursor(hand);
         connect(button, &QPushButton::clicked, this, click);
         connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
         bar->addWidget(button);

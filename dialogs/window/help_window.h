@@ -17,12 +17,14 @@ protected:
 
 private:
     void FitToSize();
+    void SetPointers();
     QLayout* MakeBar();
     void AddContents();
     void Find();
     void Resize(int pixels);
     void Print();
 
+    QString programFolder_;
     Art& art_;
     QString html_;
     QTextBrowser* text_;

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include "kit/size.h"
+
 LinkLabel::LinkLabel(const char* name, QWidget* parent, const char* text, const std::string& target, const Place& place)
     : QAbstractButton(parent), place_(place) {
     setObjectName(name);
@@ -19,6 +21,7 @@ LinkLabel::LinkLabel(const char* name, QWidget* parent, const char* text, const 
 
 void LinkLabel::FitText() {
     constexpr int focusRoom = 2;
+    const SizeWithin window(SizeIn(*this));
     const QRect line = Pixels(place_);
     setGeometry(line.left() - focusRoom, line.top(), fontMetrics().horizontalAdvance(text()) + 2 * focusRoom,
                 line.height());

@@ -27,8 +27,8 @@ QString OneLine(const std::string& text) {
 }
 }  // namespace
 
-ScoreListModel::ScoreListModel(QObject* parent, Art& art, qreal devicePixelRatio)
-    : QAbstractTableModel(parent), art_(art), devicePixelRatio_(devicePixelRatio) {}
+ScoreListModel::ScoreListModel(QWidget& window, Art& art, qreal devicePixelRatio)
+    : QAbstractTableModel(&window), window_(window), art_(art), devicePixelRatio_(devicePixelRatio) {}
 
 void ScoreListModel::SetRows(const std::vector<ScoreCells>& rows, bool fullRowSelect) {
     beginResetModel();
@@ -54,6 +54,7 @@ QVariant ScoreListModel::data(const QModelIndex& index, int role) const {
 QVariant ScoreListModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
     const Header& header = headers.at(static_cast<std::size_t>(section));
+    const SizeWithin window(SizeIn(window_));
     switch (role) {
         case Qt::DisplayRole:
             return header.text;

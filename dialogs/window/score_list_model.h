@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QWidget>
 
 #include "dialogs/scores_form.h"
 #include "kit/art.h"
@@ -8,7 +9,7 @@
 // The rows of LVScores under their four headers.
 class ScoreListModel final : public QAbstractTableModel {
 public:
-    ScoreListModel(QObject* parent, Art& art, qreal devicePixelRatio);
+    ScoreListModel(QWidget& window, Art& art, qreal devicePixelRatio);
 
     // Replaces all rows. A row that is not selected as a whole can be selected by its first cell.
     void SetRows(const std::vector<ScoreCells>& rows, bool fullRowSelect);
@@ -20,6 +21,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    QWidget& window_;
     Art& art_;
     qreal devicePixelRatio_;
     std::vector<ScoreCells> rows_;

@@ -1,6 +1,7 @@
 #include "table/window/board.h"
 
 #include <QMouseEvent>
+#include <utility>
 
 #include "kit/sized_widgets.h"
 #include "kit/spoken.h"
@@ -25,7 +26,9 @@ void SetSpokenText(TextLabel& label, const QString& called, const QString& text)
     Say(label, called + ": " + (text.isEmpty() ? "empty" : text));
 }
 
-PictureButton::Looks NarrowLooks() { return {"box_open", "box_hot", "box_pressed", "box_empty"}; }
+PictureButton::Looks NarrowLooks(ScoreColumn column) {
+    return {"box_open", "box_hot", "box_pressed", "box_empty", QString("mark_%1").arg(static_cast<int>(column))};
+}
 PictureButton::Looks WideLooks(int row) { return {Index("row_plain", row), {}, Index("row_pressed", row), {}}; }
 PictureButton::Looks WideHotLooks(int row) {
     return {Index("row_hot", row), {}, Index("row_pressed", row), Index("row_plain", row)};
@@ -33,7 +36,7 @@ PictureButton::Looks WideHotLooks(int row) {
 }  // namespace
 
 BoxButton::BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover)
-    : PictureButton(name, parent, art, NarrowLooks()), box_(box), hover_(std::move(hover)) {
+    : PictureButton(name, parent, art, {}), box_(box), hover_(std::move(hover)) {
     setMouseTracking(true);
     setEnabled(false);
     hide();
@@ -45,9 +48,13 @@ void BoxButton::SetHint(const QString& points) {
     SayState();
 }
 
+void BoxButton::SetAnnounced(bool on) {
+    if (std::exchange(announced_, on) != on) SayState();
+}
+
 void BoxButton::SayState() {
     const QString score = isEnabled() && !hint_.isEmpty() ? ", would score " + hint_ : QString();
-    Say(*this, box_ + (isEnabled() ? ", open" : ", closed") + score);
+    Say(*this, box_ + (!isEnabled() ? ", closed" : announced_ ? ", announced" : ", open") + score);
 }
 
 void BoxButton::TellHover(bool on) {
@@ -85,7 +92,7 @@ void BoxButton::changeEvent(QEvent* event) {
 }
 
 Board::Board(QWidget* table, Art& art, const Events& events)
-    : ground_(new Shape(boxGroundPlace.name, table, colour::boxGround)),
+    : ground_(new Well(boxGroundPlace.name, table, colour::boxGround)),
       arrowsFour_(new Picture("imgArrow", table, art, "arrows_4")),
       arrowsOne_(new Picture("imgArrow2", table, art, "arrows_1")) {
     Put(*arrowsFour_, arrowsFourPlace);
@@ -138,9 +145,11 @@ void Board::LayOut(int columns) {
     Put(*ground_, boxGroundPlace.In(columns));
     arrowsFour_->setVisible(four);
     arrowsOne_->setVisible(!four);
-    for (ScoreColumn column : allColumns) PlaceColumn(column, columns);
-    for (int row = 0; row < rowCount; ++row)
-        Button(ScoreColumn::Rand, row).SetLooks(four ? NarrowLooks() : WideLooks(row));
+    for (ScoreColumn column : allColumns) {
+        PlaceColumn(column, columns);
+        for (int row = 0; row < rowCount; ++row)
+            Button(column, row).SetLooks(four ? NarrowLooks(column) : WideLooks(row));
+    }
 }
 
 void Board::PlaceColumn(ScoreColumn column, int columns) {
@@ -184,6 +193,10 @@ void Board::ShowMark(const std::optional<Box>& mark) {
     for (ScoreColumn column : allColumns)
         for (int row = 0; row < rowCount; ++row)
             Button(column, row).SetMarked(mark ? std::optional(*mark == Box{column, row}) : std::nullopt);
+}
+
+void Board::SetAnnounced(bool on) {
+    for (int row = 0; row < rowCount; ++row) Button(ScoreColumn::Oblg, row).SetAnnounced(on);
 }
 
 void Board::SetPointer(const QCursor& pointer) {

@@ -14,6 +14,7 @@ public:
 
     // box: what a screen reader calls the box that the button stands over.
     BoxButton(const QString& name, QWidget* parent, Art& art, const QString& box, Hover hover);
+    void SetAnnounced(bool on);
     void SetHint(const QString& points);  // what the box would score; empty when the player is not told
 
 protected:
@@ -28,6 +29,7 @@ private:
     void SayState();
 
     QString box_, hint_;
+    bool announced_ = false;
     Hover hover_;
     bool hovered_ = false;
 };
@@ -46,10 +48,12 @@ public:
     void SetPointer(const QCursor& pointer);
 
     BoxButton& Button(ScoreColumn column, int row) { return *columns_[column].buttons[row]; }
+    TextLabel& BoxLabel(ScoreColumn column, int row) { return *columns_[column].boxes[row]; }
     void SetBoxText(ScoreColumn column, int row, const QString& text);
     void SetTotalText(ScoreColumn column, TotalRow row, const QString& text);
     void SetHint(int row, const QString& points);  // empty: none
     void ShowHints(bool on);
+    void SetAnnounced(bool on);  // only the announced box is open then
     void ShowMark(const std::optional<Box>& mark);
     void SetBoxPicture(int row, bool normal);
 
@@ -60,14 +64,13 @@ private:
         ByTotalRow<TextLabel*> totals{};
     };
 
-    TextLabel& BoxLabel(ScoreColumn column, int row) { return *columns_[column].boxes[row]; }
     TextLabel& Total(ScoreColumn column, TotalRow row) { return *columns_[column].totals[row]; }
     void SayHint(int row);
     void TellColumns();
     void MakeColumn(ScoreColumn column, QWidget* table, Art& art, const Events& events);
     void PlaceColumn(ScoreColumn column, int columns);
 
-    Shape* ground_;
+    Well* ground_;
     Picture* arrowsFour_;
     Picture* arrowsOne_;
     ByColumn<Column> columns_;

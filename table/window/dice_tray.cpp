@@ -66,8 +66,8 @@ void RollButton::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 DiceTray::DiceTray(QWidget* table, Art& art, const Events& events)
-    : tray_(new Shape(trayPlace.name, table, colour::tray, colour::trayEdge, colour::trayEdge)),
-      rollFrame_(new Shape(rollFramePlace.name, table, {}, colour::trayEdge, colour::trayEdge)),
+    : tray_(new Well(trayPlace.name, table, colour::tray)),
+      rollFrame_(new Well(rollFramePlace.name, table, colour::rollGround)),
       roll_(new RollButton(table, art, events.rollCancelled)) {
     for (int i = 0; i < maxDice; ++i) MakeDie(i, table, art, events);
     MakeRollButton(art, events);
@@ -149,6 +149,13 @@ void DiceTray::ShowFace(int i, int face) {
 }
 
 void DiceTray::ShowRollingFace(int i, int face) { At(i).free->SetLooks(RollingLooks(face)); }
+
+void DiceTray::SayRoll(const QString& faces) {
+    lamps_->setAccessibleDescription("The dice show " + faces);
+    SayFocus(*lamps_);
+}
+
+QWidget& DiceTray::ShownDie(int i) { return At(i).held->isHidden() ? *At(i).free : *At(i).held; }
 
 void DiceTray::ShowFree(int i) {
     At(i).free->show();

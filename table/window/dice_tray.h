@@ -52,6 +52,10 @@ public:
     void ShowNextBoardButton(bool visible, bool enabled);
     void SetShowBoardCaption(const QString& caption) { showBoard_->SetCaption(caption); }
 
+    QWidget& ShownDie(int i);  // the held or the free one
+    // Leads a screen reader to the lamps, which tell of the roll and of all dice.
+    void SayRoll(const QString& faces);
+
 private:
     struct Die {
         Shape* frame;
@@ -63,9 +67,9 @@ private:
     void MakeRollButton(Art& art, const Events& events);
     Die& At(int i) { return dice_[i]; }
 
-    Shape* tray_;
+    Well* tray_;
     ByDie<Die> dice_{};
-    Shape* rollFrame_;
+    Well* rollFrame_;
     RollButton* roll_;
     ByLamp<Picture*> darkLamps_{};
     ByLamp<Picture*> litLamps_{};

@@ -9,7 +9,7 @@ FrameLines::FrameLines(QWidget* table)
 FrameLines::Frame FrameLines::Make(QWidget* table, const std::array<ControlPlace, 4>& places) {
     Frame frame{};
     for (std::size_t i = 0; i < frame.size(); ++i)
-        frame[i] = new Shape(places[i].name, table, QColor(), i < 2 ? colour::light : colour::dark);
+        frame[i] = new Shape(places[i].name, table, QColor(), i < 2 ? colour::softLight : colour::softDark);
     return frame;
 }
 

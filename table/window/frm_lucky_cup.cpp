@@ -54,7 +54,11 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
     : QMainWindow(nullptr, fixedWindow),
       gate_(gate),
       art_(art),
-      table_(new TableArea(this, [this] { SetPointersAndIcon(); })),
+      table_(new TableArea(this,
+                           [this] {
+                               SetPointers();
+                               SetGameIcon(art_);
+                           })),
       lines_(table_),
       labels_(table_),
       board_(table_, art_, BoardEvents()),
@@ -89,13 +93,12 @@ void frmLuckyCup::Leave() {
     LetGo();
 }
 
-void frmLuckyCup::SetPointersAndIcon() {
+void frmLuckyCup::SetPointers() {
     if (!game_) return;
     SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
     board_.SetPointer(hand);
     tray_.SetPointers(hand, cursor());
-    SetGameIcon(art_);
 }
 
 void frmLuckyCup::PlaceOnScreen() {
@@ -114,6 +117,8 @@ void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
         if (!game_) return;  // it has left
         Follow(*game_, mark_);
         ShowMark();
+        board_.SetAnnounced(game_->session.Announced);
+        LeadReader(game_->table);
     });
 }
 
@@ -132,7 +137,21 @@ bool frmLuckyCup::Covered() const {
 void frmLuckyCup::ShowMark() {
     if (std::exchange(shownMark_, mark_.box) == mark_.box) return;
     board_.ShowMark(mark_.box);
-    SayFocus(mark_.box ? static_cast<QWidget&>(board_.Button(mark_.box->column, mark_.box->row)) : *this);
+    if (mark_.box) return SayFocus(board_.Button(mark_.box->column, mark_.box->row));
+    TextLabel& written = board_.BoxLabel(mark_.last.column, mark_.last.row);
+    SayFocus(written.text().isEmpty() ? static_cast<QWidget&>(*this) : written);
+}
+
+// Who does not see the table hears what has come of a key: the dice that lie after a roll, a die held or released.
+void frmLuckyCup::LeadReader(const TableState& table) {
+    const bool sameRoll = std::exchange(toldLamps_, table.lamps) == table.lamps;
+    QStringList faces;
+    for (int i = 0; i < maxDice; ++i) {
+        const DieState& die = table.dice[i];
+        if (die.shown) faces << QString::number(die.face);
+        if (std::exchange(toldHeld_[i], die.held) != die.held && sameRoll) SayFocus(tray_.ShownDie(i));
+    }
+    if (!sameRoll && table.lamps > 0) tray_.SayRoll(faces.join(' '));
 }
 
 Board::Events frmLuckyCup::BoardEvents() {
@@ -256,7 +275,10 @@ void frmLuckyCup::keyPressEvent(QKeyEvent* event) {
     if (const int code = KeyCode(*event)) return Play([code](Game& game) { Form_KeyPress(game, code); });
     const auto key = PlayerKeyOf(*event);
     if (!key) return QMainWindow::keyPressEvent(event);
-    Play([this, key](Game& game) { PressKey(game, mark_, *key); });
+    Play([this, key](Game& game) {
+        PressKey(game, mark_, *key);
+        if (Repeats(*key)) shownMark_.reset();  // a movement tells where the mark is, also at an edge
+    });
 }
 
 void frmLuckyCup::showEvent(QShowEvent* event) {
@@ -276,6 +298,7 @@ bool frmLuckyCup::eventFilter(QObject* watched, QEvent* event) {
 
 void frmLuckyCup::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::StyleChange && isVisible()) SetPointers();
     if (event->type() != QEvent::WindowStateChange || minimized_ == isMinimized()) return;
     minimized_ = isMinimized();
     Run([minimized = minimized_](Game& game) { Form_Resize(game, minimized); });

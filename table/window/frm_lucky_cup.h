@@ -85,6 +85,7 @@ private:
     void Run(const std::function<void(Game&)>& handler);
     void Play(const std::function<void(Game&)>& handler);  // what a player does, and can't while a dialog stands open
     void ShowMark();
+    void LeadReader(const TableState& table);
     void Hover(ScoreColumn column, int row, bool onButton);
     Board::Events BoardEvents();
     DiceTray::Events TrayEvents();
@@ -92,7 +93,7 @@ private:
     bool Covered() const;  // by a modal window
     void AskToLeave();
     void PlaceOnScreen();
-    void SetPointersAndIcon();
+    void SetPointers();
     GlyphColumns& Counter(CounterPicture picture) { return counters_[picture]; }
 
     EventGate& gate_;
@@ -110,6 +111,8 @@ private:
     StatusBarWidget* statusBar_;
     BoxMark mark_;
     std::optional<Box> shownMark_;
+    ByDie<bool> toldHeld_{};
+    int toldLamps_ = 0;
     QPointF mouse_;  // on the screen
     bool minimized_ = false;
     bool leaving_ = false;  // the player is being asked, or has left

@@ -1,14 +1,16 @@
 #include "table/window/layout.h"
 
+#include "table/status_bar.h"
+
 namespace {
 constexpr ByDie<int> leftsOfSix{{245, 1150, 2070, 245, 1150, 2070}};
 constexpr ByDie<int> leftsOfFive{{245, 1150, 2070, 697, 1602, 2070}};
 }  // namespace
 
 int SizeAtStart(int wanted, QSize screen) {
-    constexpr QSize inside(windowWidth / 15, (windowFrame.height - frameAndMenuHeight + menuBarHeight) / 15);
-    constexpr QSize widestFrame(10, 38);  // of the desktops of today
-    return FittingSize(IsSize(wanted) ? wanted : toldSize, inside, widestFrame, screen);
+    constexpr int height = tallestWindow - frameAndMenuHeight + menuBarHeight;
+    constexpr QSize inside((windowWidth + 14) / 15, (height + 14) / 15);  // twips to pixels, none of them cut off
+    return FittingSize(IsSize(wanted) ? wanted : toldSize, inside, screen);
 }
 
 Place BoxPlace(ScoreColumn column, int top, int height, int columns) {

@@ -127,9 +127,12 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
             [this] { setActiveAction(actions().front()); });
 }
 
-// A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table.
+// A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table. An open menu hands
+// on the keys that it does not know.
 void MenuBar::keyPressEvent(QKeyEvent* event) {
-    if (activeAction())
+    if (event->key() == Qt::Key_F10)
+        setActiveAction(nullptr);
+    else if (activeAction())
         QMenuBar::keyPressEvent(event);
     else
         event->ignore();

@@ -30,7 +30,7 @@ void PutIntoFrame(TextLabel& label, Shape& frame, const Place& labelPlace, const
 }
 }  // namespace
 
-RowLabels::RowLabels(QWidget* table) : panel_(new Shape(rowPanelPlace.name, table, colour::rowPanel)) {
+RowLabels::RowLabels(QWidget* table) : panel_(new Well(rowPanelPlace.name, table, colour::rowPanel)) {
     Say(*panel_, "Rows");
     for (int row = 0; row < rowCount; ++row) MakeRow(row);
     for (std::size_t i = 0; i < sumRows.size(); ++i) MakeSumRow(i);
@@ -44,6 +44,7 @@ void RowLabels::MakeRow(int row) {
     labels_[row]->setToolTip(rowTips[row]);
     tipFrames_[row] = new Shape(Index("Shape12", row), panel_, colour::black, colour::rowFrame, colour::rowFrame);
     tips_[row] = new TextLabel(Index("lblTip", row), panel_, tipLook, Qt::AlignHCenter);
+    tips_[row]->SetMargins(1, 1);
     SetTip(row, {});
     PutIntoFrame(*tips_[row], *tipFrames_[row], LabelPlace(row, tipLeft, tipWidth),
                  FramePlace(boxTops[row], boxLabelHeight, tipLeft, tipWidth));

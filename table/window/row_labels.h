@@ -18,7 +18,7 @@ private:
     void MakeRow(int row);
     void MakeSumRow(std::size_t i);
 
-    Shape* panel_;
+    Well* panel_;
     ByRow<TextLabel*> labels_{};
     ByRow<Shape*> labelFrames_{};
     ByRow<TextLabel*> tips_{};

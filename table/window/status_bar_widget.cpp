@@ -93,6 +93,7 @@ void StatusBarWidget::paintEvent(QPaintEvent*) {
     const int inset = Sized(insetAtToldSize);
     for (const Panel& panel : panels_) {
         if (!panel.visible) continue;
-        PaintEdges(painter, panel.label->geometry().adjusted(-inset, -1, inset, 1), colour::dark, colour::light);
+        PaintEdges(painter, panel.label->geometry().adjusted(-inset, -1, inset, 1), colour::softDark,
+                   colour::softLight);
     }
 }

@@ -66,8 +66,8 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const bool hot = isEnabled() && underMouse();
-        if (hot && isDown()) PaintEdges(painter, rect(), colour::dark, colour::light);
-        if (hot && !isDown()) PaintEdges(painter, rect(), colour::light, colour::dark);
+        if (hot && isDown()) PaintEdges(painter, rect(), colour::softDark, colour::softLight);
+        if (hot && !isDown()) PaintEdges(painter, rect(), colour::light, colour::softDark);
         const QString look = !isEnabled() ? "_disabled" : hot ? "_hot" : "";
         const QSize size = Sized(pictureSize);
         const QPoint corner((width() - size.width()) / 2, (height() - size.height()) / 2);
@@ -133,7 +133,7 @@ void ToolBar::paintEvent(QPaintEvent*) {
         const QRect before = buttons_[i - 1]->geometry();
         const int x = before.right() + 1 + Pixels(separatorWidth) / 2, inset = Sized(2);
         const QRect line(x, before.top() + inset, std::max(1, Sized(1)), before.height() - 2 * inset);
-        painter.fillRect(line, colour::dark);
+        painter.fillRect(line, colour::softDark);
         painter.fillRect(line.translated(line.width(), 0), colour::light);
     }
 }
