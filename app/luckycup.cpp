@@ -3,11 +3,14 @@
 #include <QScreen>
 #include <QStandardPaths>
 
+#include "app/end_signals.h"
 #include "app/program.h"
 #include "app/single_instance.h"
+#include "dialogs/window/frm_welcome.h"
 #include "kit/look.h"
 #include "kit/message_box.h"
 #include "kit/sized_widgets.h"
+#include "store/settings_store.h"
 #include "store/size_store.h"
 #include "table/window/first_pictures.h"
 #include "table/window/layout.h"
@@ -17,9 +20,18 @@ ProgramFiles Files() {
     return FindProgramFiles(QCoreApplication::applicationDirPath(),
                             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
+
+// The pictures of the first window, then those that are wanted after it.
+void RenderAhead(Art& art, qreal devicePixelRatio) {
+    std::vector batches{FirstPictures(devicePixelRatio), IconPictures()};
+    if (RegistrySettings().LoadSettings().ShowDialog)
+        batches.insert(batches.begin(), WelcomePictures(devicePixelRatio));
+    art.RenderAhead(std::move(batches));
+}
 }  // namespace
 
 int Main(QApplication& app) {
+    EndOnSignals(app);
     ChangeSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
     Art art;
     FileLock lock;
@@ -29,7 +41,9 @@ int Main(QApplication& app) {
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;
     }
-    art.RenderAhead(FirstPictures(app.devicePixelRatio()));
+    RenderAhead(art, app.devicePixelRatio());
     Program program(Files(), art);
-    return program.Start() ? app.exec() : 0;
+    const int status = program.Start() ? app.exec() : 0;
+    program.window.Leave();
+    return status;
 }

@@ -1,8 +1,12 @@
 """What the window measurements share: the two programs, and one start of either until its picture stands."""
 
 import argparse
+import ctypes
+import os
 import pathlib
+import select
 import sys
+import tempfile
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -12,11 +16,13 @@ from screen import BLACK, Screen, wait_for  # noqa: E402 (found by the line abov
 
 GAME = ROOT / "build/release/LuckyCup/LuckyCup"
 EMPTY = ROOT / "build/release/bench/empty_window"
-GAME_TITLE = "^Lucky Cup"
+TABLE_TITLE, WELCOME_TITLE = "^Lucky Cup", "^Welcome"
 TABLE_FIRST = "ShowDialog=False\nShowSplash=False\n"
+WELCOME_FIRST = "ShowDialog=True\n"
 LOOKS = 16  # rows of the window that are looked at
 
-__all__ = ["EMPTY", "GAME", "GAME_TITLE", "Screen", "arguments", "game_place", "is_painted", "start_until_painted"]
+__all__ = ["EMPTY", "GAME", "TABLE_FIRST", "TABLE_TITLE", "WELCOME_FIRST", "WELCOME_TITLE", "Changes", "Screen", "arguments",
+           "is_painted", "place_of", "start_until_painted", "wait_for"]
 
 
 def arguments(description, **numbers):
@@ -27,13 +33,41 @@ def arguments(description, **numbers):
     for program in (GAME, EMPTY):
         if not program.exists():
             parser.error(f"{program} is missing; ./check builds it")
+    if os.access("/dev/shm", os.W_OK):
+        tempfile.tempdir = "/dev/shm"  # homes and runtime folders in memory
     return options
 
 
-def game_place(screen):
-    """x, y, width and height of the game's window, from one start, which also warms the caches."""
-    game = screen.start(GAME, home=screen.new_home(TABLE_FIRST))
-    window = wait_for("the game's window", lambda: screen.find_window(GAME_TITLE))
+class Changes:
+    """Tells when the screen has changed, by the server's own events."""
+
+    def __init__(self, display):
+        self._x, damage = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXdamage.so.1")
+        self._x.XOpenDisplay.restype = ctypes.c_void_p
+        self._x.XDefaultRootWindow.restype = damage.XDamageCreate.restype = ctypes.c_ulong
+        self._display = ctypes.c_void_p(self._x.XOpenDisplay(display.encode()))
+        first_event, first_error = ctypes.c_int(), ctypes.c_int()
+        if not self._display or not damage.XDamageQueryExtension(self._display, *map(ctypes.byref, (first_event, first_error))):
+            raise RuntimeError("the X server tells no changes")
+        root = ctypes.c_ulong(self._x.XDefaultRootWindow(self._display))
+        raw_rectangles = 0
+        damage.XDamageCreate(self._display, root, raw_rectangles)
+        self._x.XSync(self._display, 0)
+        self._file = self._x.XConnectionNumber(self._display)
+
+    def wait(self, seconds):
+        """Until something changes that has not been told yet."""
+        event = ctypes.create_string_buffer(192)  # the size of an XEvent
+        if not self._x.XPending(self._display):
+            select.select([self._file], [], [], seconds)
+        while self._x.XPending(self._display):
+            self._x.XNextEvent(self._display, event)
+
+
+def place_of(screen, title, settings):
+    """x, y, width and height of the game's first window with these settings, from one start, which also warms the caches."""
+    game = screen.start(GAME, home=screen.new_home(settings))
+    window = wait_for("the game's window", lambda: screen.find_window(title))
     place = screen.place(window)
     game.kill()
     game.wait()
@@ -53,16 +87,13 @@ def is_painted(screen, place):
     return painted > LOOKS // 2
 
 
-def start_until_painted(screen, place, command, settings=""):
+def start_until_painted(screen, changes, place, command, settings=TABLE_FIRST):
     """Starts the program on the black screen; returns it with the seconds that passed until its first picture."""
-    home = screen.new_home(TABLE_FIRST + settings)
+    home = screen.new_home(settings)
     begin = time.perf_counter()
     process = screen.start(*command, home=home)
-
-    def shows():
-        if process.poll() is not None:
-            raise RuntimeError(f"{command[0]} ended with status {process.returncode} before it painted")
-        return is_painted(screen, place)
-
-    wait_for("a picture", shows, pause=0.0002)
+    while not is_painted(screen, place):
+        if process.poll() is not None or time.perf_counter() - begin > 30:
+            raise RuntimeError(f"{command[0]} has painted nothing; status {process.returncode}")
+        changes.wait(1)
     return process, time.perf_counter() - begin

@@ -1,6 +1,7 @@
 #include "kit/art.h"
 
 #include <QSvgRenderer>
+#include <algorithm>
 #include <system_error>
 
 // The resources lie in a static library, which the linker would take without them. The macro must not stand in a
@@ -27,24 +28,41 @@ Art::Art() { TakeResources(); }
 
 QSize Art::ToldSize(const QString& name) { return QSvgRenderer(":/art/" + name + ".svg").viewBoxF().size().toSize(); }
 
-void Art::RenderAhead(std::vector<Wanted> pictures) {
-    for (const auto& [name, size] : pictures) wantedAhead_.insert(KeyOf(name, size));
-    const auto renderAll = [pictures = std::move(pictures)] {
-        QHash<QString, QImage> images;
-        for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
-        return images;
+Art::Wanted Art::WantedOver(const QString& name, const QRect& area, qreal devicePixelRatio) {
+    const auto device = [=](int edge) { return qRound(edge * devicePixelRatio); };
+    return {name,
+            {device(area.left() + area.width()) - device(area.left()),
+             device(area.top() + area.height()) - device(area.top())}};
+}
+
+void Art::RenderAhead(std::vector<std::vector<Wanted>> batches) {
+    std::vector<std::packaged_task<Images()>> tasks;
+    for (std::vector<Wanted>& pictures : batches) {
+        Batch& batch = ahead_.emplace_back();
+        for (const auto& [name, size] : pictures) batch.keys.insert(KeyOf(name, size));
+        tasks.emplace_back([pictures = std::move(pictures)] {
+            Images images;
+            for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
+            return images;
+        });
+        batch.images = tasks.back().get_future();
+    }
+    auto renderAll = [tasks = std::move(tasks)]() mutable {
+        for (std::packaged_task<Images()>& task : tasks) task();
     };
     try {
-        ahead_ = std::async(std::launch::async, renderAll);
+        worker_ = std::async(std::launch::async, std::move(renderAll));
     } catch (const std::system_error&) {
-        // No thread to be had: each picture is rendered when it is first wanted.
+        ahead_.clear();  // no thread to be had: each picture is rendered when it is first wanted
     }
 }
 
 // Only who wants one of them waits for them.
 void Art::TakeRenderedAhead(const QString& key) {
-    if (!ahead_.valid() || !wantedAhead_.contains(key)) return;
-    const QHash<QString, QImage> images = ahead_.get();
+    const auto batch = std::ranges::find_if(ahead_, [&](const Batch& one) { return one.keys.contains(key); });
+    if (batch == ahead_.end()) return;
+    const Images images = batch->images.get();
+    ahead_.erase(batch);
     for (auto image = images.begin(); image != images.end(); ++image)
         rendered_[image.key()] = QPixmap::fromImage(image.value());
 }

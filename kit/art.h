@@ -19,8 +19,12 @@ public:
 
     Art();
 
-    // Begins to render pictures that will be wanted soon, beside what else there is to do. At most once.
-    void RenderAhead(std::vector<Wanted> pictures);
+    // The picture as Draw will want it over an area of a window, in pixels.
+    static Wanted WantedOver(const QString& name, const QRect& area, qreal devicePixelRatio);
+
+    // Begins to render pictures that will be wanted soon, one batch after the other, beside what else there is to do.
+    // Who wants one of them waits for its batch. At most once.
+    void RenderAhead(std::vector<std::vector<Wanted>> batches);
 
     // The size that the picture was drawn for, in pixels; empty when there is no such picture.
     static QSize ToldSize(const QString& name);
@@ -37,11 +41,17 @@ public:
     QPixmap Scaled(const QString& name, QSize size, qreal devicePixelRatio);
 
 private:
+    using Images = QHash<QString, QImage>;
+    struct Batch {
+        QSet<QString> keys;
+        std::future<Images> images;
+    };
+
     void TakeRenderedAhead(const QString& key);
 
     QHash<QString, QPixmap> rendered_;
-    QSet<QString> wantedAhead_;
-    std::future<QHash<QString, QImage>> ahead_;
+    std::vector<Batch> ahead_;  // that nobody has wanted yet
+    std::future<void> worker_;
 };
 
 // How many device pixels a painter puts in the place of one: also where a widget is drawn into a picture of another

@@ -1,5 +1,6 @@
 #include "kit/controls.h"
 
+#include <QFontDatabase>
 #include <QTextOption>
 #include <algorithm>
 #include <utility>
@@ -8,17 +9,30 @@
 #include "kit/size.h"
 #include "kit/twips.h"
 
+namespace {
+// With those first that are there. For one that is not Qt would search what stands for it with each new font.
+QStringList ThereFirst(QStringList families) {
+    const QStringList there = QFontDatabase::families();
+    std::ranges::stable_partition(families, [&](const QString& family) { return there.contains(family); });
+    return families;
+}
+}  // namespace
+
 QFont TableFont(bool bold, int pixels) {
+    static const QStringList families =
+        ThereFirst({"Arial", "Liberation Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
     QFont font;
-    font.setFamilies({"Arial", "Liberation Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
+    font.setFamilies(families);
     font.setPixelSize(SizedDown(pixels));
     font.setBold(bold);
     return font;
 }
 
 QFont BoxFont() {
+    static const QStringList families =
+        ThereFirst(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TableFont(true).families());
     QFont font;
-    font.setFamilies(QStringList{"MS Sans Serif", "Microsoft Sans Serif"} + TableFont(true).families());
+    font.setFamilies(families);
     return font;
 }
 

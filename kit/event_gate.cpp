@@ -1,16 +1,19 @@
 #include "kit/event_gate.h"
 
+#include <QApplication>
 #include <utility>
 
 void EventGate::Run(Handler handler) {
     if (shut_) return;
-    if (Busy()) {
+    // Behind those that wait, which do not run here: Qt may be in the middle of telling widgets that the mouse has left
+    // them, and a handler that opens or closes windows would take them away.
+    if (Busy() || !waiting_.empty())
         waiting_.push_back(std::move(handler));
-        return;
-    }
-    while (!waiting_.empty()) RunFirstWaiting();
-    if (!shut_) Enter(handler);
+    else
+        Enter(handler);
 }
+
+bool EventGate::Busy() const { return depth_ > 0 || (opened_ > 0 && !QApplication::activeModalWidget()); }
 
 void EventGate::Shut() {
     shut_ = true;
@@ -43,6 +46,13 @@ EventGate::Inside::~Inside() {
     gate_.RunLater();
 }
 
-EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) { gate_.RunLater(); }
+EventGate::Open::Open(EventGate& gate) : gate_(gate), depth_(std::exchange(gate.depth_, 0)) {
+    ++gate_.opened_;
+    gate_.RunLater();
+}
 
-EventGate::Open::~Open() { gate_.depth_ = depth_; }
+EventGate::Open::~Open() {
+    --gate_.opened_;
+    gate_.depth_ = depth_;
+    gate_.RunLater();
+}

@@ -6,13 +6,15 @@
 
 // The one door into the game. A handler runs to its end before the next one begins: what wants in meanwhile waits its
 // turn and runs, in order, when the event loop is reached again. While a modal window stands open inside a handler the
-// door is open once more, so that timers go on behind it.
+// door is open once more, so that timers go on behind it; not so once it has closed, though its event loop may still
+// have clicks to hand out.
 class EventGate final : public QObject {
 public:
     using Handler = std::function<void()>;
 
     void Run(Handler handler);
-    void Shut();  // lets nothing in any more and drops what waits
+    bool Busy() const;  // what wants in waits
+    void Shut();        // lets nothing in any more and drops what waits
 
     // Stands around the event loop of a modal window.
     class Open {
@@ -37,12 +39,12 @@ private:
         EventGate& gate_;
     };
 
-    bool Busy() const { return depth_ > 0; }
     void Enter(const Handler& handler);
     void RunLater();
     void RunFirstWaiting();
 
     int depth_ = 0;
+    int opened_ = 0;  // windows around whose event loops an Open stands
     bool shut_ = false;
     std::deque<Handler> waiting_;
 };

@@ -8,4 +8,5 @@ void PrepareLook();  // before the application object is made
 void ApplyLook();    // after it
 void ApplyFonts();   // those of all windows and tool tips, at the size that is now; part of ApplyLook
 
-void SetGameIcon(Art& art);  // of every window
+void SetGameIcon(Art& art);               // of every window
+std::vector<Art::Wanted> IconPictures();  // that this takes

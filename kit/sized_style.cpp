@@ -44,6 +44,10 @@ int SizedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     }
 }
 
+QIcon SizedStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    return icon == SP_ToolBarHorizontalExtensionButton ? QIcon() : QProxyStyle::standardIcon(icon, option, widget);
+}
+
 QSize SizedStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                    const QWidget* widget) const {
     constexpr QSize leastButton(80, 26);

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -78,20 +77,20 @@ bool Holds(const QSettings& key, const NamedTexts& texts) {
     });
 }
 
-// In memory, where the system has such a folder for its users.
-QString FolderForDrafts() {
+// In memory, where the system has such a folder for its users; else beside the store. It has always the same name, so
+// that what a save leaves that is killed goes with the next one.
+QDir FolderForDrafts(const QFileInfo& store) {
     const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return own.isEmpty() ? QDir::tempPath() : own;
+    return (own.isEmpty() ? store.path() : own) + "/LuckyCup.draft";
 }
 
-// A store's bytes with the texts written into them, empty when that fails. QSettings would wait for locks beside the
-// file, and on a full disk of Qt 6.4 put an empty one in its place; so it is given a copy in a folder of its own, and
+// A store's bytes with the texts written into them by way of the folder, empty when that fails. QSettings would wait
+// for locks beside the file, and on a full disk of Qt 6.4 put an empty one in its place; so it is given a copy, and
 // what it wrote is read back under another name, which it does not remember.
-QByteArray WithTexts(const QByteArray& store, const NamedTexts& texts) {
-    const QTemporaryDir folder(FolderForDrafts() + "/LuckyCup-XXXXXX");
+QByteArray WithTexts(const QByteArray& store, const NamedTexts& texts, const QDir& folder) {
     const QString draft = folder.filePath("draft.conf");
     const QString written = folder.filePath("written.conf");
-    if (!CopyTo(draft, store)) return {};
+    if (!QDir().mkdir(folder.path(), ownersOnly | QFileDevice::ExeOwner) || !CopyTo(draft, store)) return {};
     QSettings key(draft, QSettings::NativeFormat);
     Write(key, texts);
     if (!QFile::rename(draft, written)) return {};
@@ -146,9 +145,12 @@ void SaveTexts(const QString& path, const NamedTexts& texts) {
     }
     const QFileInfo old(path);
     if (old.exists() && !(old.isFile() && old.isWritable())) return;
-    const QByteArray store = WithTexts(IsStore(old) ? BytesOf(path) : QByteArray(), texts);
-    if (store.isEmpty() || !QDir().mkpath(old.path())) return;
-    ReplaceFile(path, store, ownersOnly);
+    if (!QDir().mkpath(old.path())) return;
+    QDir drafts = FolderForDrafts(old);
+    drafts.removeRecursively();
+    const QByteArray store = WithTexts(IsStore(old) ? BytesOf(path) : QByteArray(), texts, drafts);
+    drafts.removeRecursively();
+    if (!store.isEmpty()) ReplaceFile(path, store, ownersOnly);
 }
 
 std::string LoadText(const QString& path, std::string_view name) {

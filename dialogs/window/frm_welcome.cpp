@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
+#include <utility>
 
 #include "dialogs/window/title_texts.h"
 #include "kit/controls.h"
@@ -18,11 +20,14 @@ constexpr int exitTop = checkPlace.top + (checkPlace.height - buttonHeight) / 2;
 constexpr Place InRow(int k) { return {left + k * buttonStep, buttonTop, buttonWidth, buttonHeight}; }
 }  // namespace
 
+std::vector<Art::Wanted> WelcomePictures(qreal devicePixelRatio) {
+    return {Art::WantedOver("welcome", Pixels(picturePlace), devicePixelRatio)};
+}
+
 frmWelcome::frmWelcome(Game& game, Art& art)
     : DialogWindow(nullptr, "frmWelcome", "Welcome to LuckyCup 2.2.2", 6105, 5260),
       game_(game),
       Check1_(new QCheckBox("Don't show this dialog next time")) {
-    SetGameIcon(art);
     Put(*new Picture("Image1", this, art, "welcome"), picturePlace);
     AddTitle(*this, {left, 2580, 3450, 390}, Qt::AlignLeft);
     AddVersion(*this, {left + 3450, 2580, right - left - 3450, 390}, Qt::AlignRight);
@@ -41,9 +46,17 @@ frmWelcome::frmWelcome(Game& game, Art& art)
     connect(Check1_, &QCheckBox::toggled, this, [this](bool on) { Check1_Change(game_, form_, on); });
     QPushButton* exit =
         AddButton("cmdExit", "&Exit", {InRow(3).left, exitTop, buttonWidth, buttonHeight}, &frmWelcome::Exit);
-    Equip(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
+    afterFirstPicture_ = [=, this, &game, &art] {
+        SetGameIcon(art);
+        Equip(game, art, {play, options, guide, scores, exit, links.webSite, links.email});
+    };
     play->setFocus();
     PlaceOnScreen();
+}
+
+void frmWelcome::paintEvent(QPaintEvent* event) {
+    DialogWindow::paintEvent(event);
+    if (afterFirstPicture_) QTimer::singleShot(0, this, std::exchange(afterFirstPicture_, nullptr));
 }
 
 QPushButton* frmWelcome::AddButton(const char* name, const char* caption, const Place& place,

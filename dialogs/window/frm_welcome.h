@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <functional>
 
 #include "dialogs/welcome_form.h"
 #include "dialogs/window/dialog_window.h"
@@ -9,9 +10,15 @@
 class QPushButton;
 
 // The start dialog, in the middle of the screen. Enter is Play; Escape and the close box are Exit.
+// The pictures that it shows first.
+std::vector<Art::Wanted> WelcomePictures(qreal devicePixelRatio);
+
 class frmWelcome final : public DialogWindow {
 public:
     frmWelcome(Game& game, Art& art);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QPushButton* AddButton(const char* name, const char* caption, const Place& place, void (frmWelcome::*click)());
@@ -25,4 +32,5 @@ private:
     Game& game_;
     WelcomeForm form_;
     QCheckBox* Check1_;
+    std::function<void()> afterFirstPicture_;
 };

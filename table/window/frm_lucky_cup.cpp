@@ -88,6 +88,11 @@ void frmLuckyCup::Load(Game& game) {
     Run(Form_Load);
 }
 
+void frmLuckyCup::Leave() {
+    if (game_) Form_Unload(*game_);
+    LetGo();
+}
+
 void frmLuckyCup::SetPointers() {
     if (!game_) return;
     SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));

@@ -24,6 +24,7 @@ public:
 
     // Loads the window for the game that it shows from now on. Once, before it is shown.
     void Load(Game& game);
+    void Leave();                      // for good, without a question; nothing when the player has left already
     void LetGo() { game_ = nullptr; }  // the game ends; nothing that happens to the window reaches it any more
 
     void SetRollPicture(RollPicture kind) override { tray_.SetRollPicture(kind); }

@@ -80,6 +80,12 @@ private:
 };
 }  // namespace
 
+QStringList FirstKeyPictures() {
+    return {"tb_new",       "tb_undo_disabled", "tb_redo_disabled", "tb_hint_disabled", "tb_sound_on",
+            "tb_sound_off", "tb_music_on",      "tb_music_off",     "tb_help",          "tb_exit"};
+}
+QSize KeyPictureSize() { return Sized(pictureSize); }
+
 ToolBar::ToolBar(QWidget* parent, Art& art, const CommandRunner& runner) : QWidget(parent) {
     setObjectName("Toolbar2");
     Say(*this, "Toolbar");

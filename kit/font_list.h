@@ -1,0 +1,7 @@
+#pragma once
+
+#include <future>
+
+// Begins to read the list of the system's fonts, for which every window with text waits, beside the making of the
+// application. First thing in main, which holds what is returned until its end.
+std::future<void> ReadFontsAhead();
