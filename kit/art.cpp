@@ -26,7 +26,7 @@ QImage Render(const QString& name, QSize size) {
 
 Art::Art() { TakeResources(); }
 
-QSize Art::ToldSize(const QString& name) { return QSvgRenderer(":/art/" + name + ".svg").viewBoxF().size().toSize(); }
+QSize Art::DrawnSize(const QString& name) { return QSvgRenderer(":/art/" + name + ".svg").viewBoxF().size().toSize(); }
 
 Art::Wanted Art::WantedOver(const QString& name, const QRect& area, qreal devicePixelRatio) {
     const auto device = [=](int edge) { return qRound(edge * devicePixelRatio); };

@@ -27,7 +27,7 @@ public:
     void RenderAhead(std::vector<std::vector<Wanted>> batches);
 
     // The size that the picture was drawn for, in pixels; empty when there is no such picture.
-    static QSize ToldSize(const QString& name);
+    static QSize DrawnSize(const QString& name);
 
     // The picture with this name, such as "die_free_3", filling so many device pixels. The reference holds until the
     // next call.

@@ -11,7 +11,7 @@
 // The small controls that the main window is made of. None of them takes the keyboard: Enter and space belong to the
 // window.
 
-// A font of the told families, or of those that stand for them, in so many device-independent pixels at the
+// A font of the game's families, or of those that stand for them, in so many device-independent pixels at the
 // told size.
 QFont TableFont(bool bold, int pixels = 11);
 // The same font, smaller where the text would not fit the width in pixels.
@@ -58,7 +58,7 @@ class TextLabel final : public QLabel {
 public:
     TextLabel(const QString& name, QWidget* parent, const LabelLook& look, Qt::Alignment alignment);
     void SetLook(const LabelLook& look);
-    void SetMargins(int left, int right);       // pixels of the told size; of nothing at first
+    void SetMargins(int left, int right);       // pixels of the normal size; of nothing at first
     void SetDrop(int twips) { drop_ = twips; }  // how far below its middle the text stands
 
 protected:

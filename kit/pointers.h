@@ -10,6 +10,6 @@
 QCursor HandPointer(Art& art, qreal devicePixelRatio);
 
 // Gives the window the pointer of base.cur in the program's folder, with the hot spot that the file names. The first of
-// the file's pictures has the told size; others are larger ones of the same for where more pixels are wanted. Without
+// the file's pictures has the normal size; others are larger ones of the same for where more pixels are wanted. Without
 // the file, or with one that is no pointer, the window keeps the pointer it has.
 void SetBasePointer(QWidget& window, const QString& programFolder);

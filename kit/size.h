@@ -3,12 +3,12 @@
 #include <QSize>
 #include <QWidget>
 
-// How large everything that the program shows is, in per cent of the told places and sizes. It belongs to the look of
+// How large everything that the program shows is, in per cent of the normal places and sizes. It belongs to the look of
 // the program as a whole, as its font and its palette do. Who changes it for open windows calls ChangeSize.
-inline constexpr int smallestSize = 75, toldSize = 100, largestSize = 300, sizeStep = 25;
+inline constexpr int smallestSize = 75, normalSize = 100, largestSize = 300, sizeStep = 25;
 
 int Size();
-void SetSize(int percent);  // one of the steps; any other is taken for toldSize
+void SetSize(int percent);  // one of the steps; any other is taken for normalSize
 
 bool IsSize(int percent);
 
@@ -28,13 +28,13 @@ private:
     int before_;
 };
 
-// So many pixels of the told size at the size that is now.
+// So many pixels of the normal size at the size that is now.
 int Sized(int pixels);
 qreal Sized(qreal pixels);
 QSize Sized(QSize pixels);
 // The same rounded down, for letters and lines, so that what fits its place does so at every size.
 int SizedDown(int pixels);
 
-// The largest step up to the wanted one at which the inside of a window, which has so many pixels at the told size,
+// The largest step up to the wanted one at which the inside of a window, which has so many pixels at the normal size,
 // fits an area with the frame of a desktop around it, which does not grow. The smallest step when none does.
 int FittingSize(int wanted, QSize inside, QSize area);

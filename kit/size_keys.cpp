@@ -11,7 +11,7 @@ SizeKeys::SizeKeys(QWidget& window, std::function<void(int)> chosen) : window_(w
     window_.installEventFilter(this);
     for (const char* keys : {"Ctrl++", "Ctrl+="}) Add(keys, [] { return Size() + sizeStep; });
     Add("Ctrl+-", [] { return Size() - sizeStep; });
-    Add("Ctrl+0", [] { return toldSize; });
+    Add("Ctrl+0", [] { return normalSize; });
 }
 
 void SizeKeys::Add(const char* keys, std::function<int()> wanted) {

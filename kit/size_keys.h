@@ -4,7 +4,7 @@
 #include <functional>
 
 // Ctrl with plus, minus, 0 or the wheel, over a window: the program shows itself a step larger, a step smaller, or at
-// the told size.
+// the normal size.
 class SizeKeys final : public QObject {
 public:
     // chosen: is told the size that the player has chosen.

@@ -10,7 +10,7 @@
 #include "kit/size.h"
 
 namespace {
-// In twips, and for letters in pixels of the told size.
+// In twips, and for letters in pixels of the normal size.
 constexpr const char* placeKey = "place";
 constexpr const char* fixedKey = "fixedSize";
 constexpr const char* lettersKey = "letters";

@@ -11,7 +11,7 @@ void Put(QWidget& widget, const Place& place);
 // A fixed width and height, in twips. A window's is that of its inside; one that its screen could not hold takes the
 // largest step at which it can for its own size.
 void FixSize(QWidget& widget, int width, int height);
-// A font, in letters of so many pixels at the told size.
+// A font, in letters of so many pixels at the normal size.
 void SetLetters(QWidget& widget, QFont font, int pixels = 11);
 
 // Gives all windows another size, those that are open too. A widget with more to do than to keep what it was told

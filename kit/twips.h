@@ -2,7 +2,7 @@
 
 #include <QRect>
 
-// Places in twips; 15 twips are one device-independent pixel of the told size.
+// Places in twips; 15 twips are one device-independent pixel of the normal size.
 struct Place {
     int left, top, width, height;
 };

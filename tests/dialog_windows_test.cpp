@@ -20,7 +20,7 @@ namespace {
 
 void ExpectPlace(const char* name, const QWidget& over) {
     QWidget& window = *Shown(name);
-    ExpectAsTold(window, name);
+    ExpectPlan(window, name);
     EXPECT_LE((window.frameGeometry().center() - over.frameGeometry().center()).manhattanLength(), 2) << name;
 }
 
@@ -46,7 +46,7 @@ TEST(Welcome, LeadsEverywhereByKeysAndByMouse) {
     Session t;
     t.Play(CasesOf("sessions.txt", "welcome"),
            {{"start", [&] { t.Start(); }},
-            {"look", [] { ExpectAsTold(*Shown("frmWelcome"), "frmWelcome"); }},
+            {"look", [] { ExpectPlan(*Shown("frmWelcome"), "frmWelcome"); }},
             {"look at the guide", [] { ExpectPlace("frmQuickStart", *Shown("frmWelcome")); }}});
 }
 

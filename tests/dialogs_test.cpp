@@ -34,7 +34,7 @@ TEST(Options, EndByTheirKeys) {
             .arg(QString::fromStdString(now.Player2));
     };
     t.Play(CasesOf("sessions.txt", "options"), {{"open", [&] { t.dialogs.frmOptions(t.game); }},
-                                                {"look", [] { ExpectAsTold(*Shown("frmOptions"), "frmOptions"); }}});
+                                                {"look", [] { ExpectPlan(*Shown("frmOptions"), "frmOptions"); }}});
     EXPECT_EQ(t.game.settings.NumberOfColumns, 1) << "cancelled";
 }
 

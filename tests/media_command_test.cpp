@@ -6,7 +6,7 @@
 
 namespace {
 
-std::string Told(const std::optional<MediaCommand>& command) {
+std::string TextOf(const std::optional<MediaCommand>& command) {
     constexpr std::array verbs{"Open", "Play", "PlayFromStart", "Pause", "Resume", "Close", "Position", "Length"};
     if (!command) return "none";
     const auto& [verb, alias, path, volume] = *command;
@@ -22,7 +22,7 @@ TEST(MediaCommand, IsReadOrNone) {
         if (line[0] == '#') continue;
         const auto end = line.rfind("| ");
         const std::string text = line.substr(1, end - 1);
-        EXPECT_EQ(Told(ParseMediaCommand(text)), line.substr(end + 2)) << text;
+        EXPECT_EQ(TextOf(ParseMediaCommand(text)), line.substr(end + 2)) << text;
         ++cases;
     }
     EXPECT_EQ(cases, 51);

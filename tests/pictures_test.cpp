@@ -41,6 +41,8 @@ TEST(Pictures, TellTheStatesOfAControlFromEachOther) {
                 {[] {}, [&] { w.SetRollPicture(RollPicture::On); }, [&] { w.SetRollPicture(RollPicture::Off); },
                  [&] { w.ShowNextPlayer(true); }, [&] { w.ShowNextBoardButton(true, true); }});
     ExpectApart(t, "cmdShowNextBoard", {[] {}}, true);
+    w.ShowNextBoardButton(false, false);
+    ExpectApart(t, "cmdNextPlayer", {[&] { w.ShowNextPlayer(true); }}, true);
     w.SetBoxText(Down, 3, "12");
     ExpectApart(t, "cmdDown_3", {[] {}, [&] { w.ShowBoxButton(Down, 3, false); }, [&] { open(Down); }}, true);
     ExpectApart(t, "lblOption_5", {[] {}, [&] { w.HighlightRowLabel(5); }});

@@ -107,7 +107,7 @@ TEST(HallOfFame, LaysOutBothWays) {
     for (int position : {0, -1, 20}) {
         Hall h;
         h.Open(position ? QString("p%1").arg(position) : "v0");
-        ExpectAsTold(*h.hall, position ? "frmScores2 result" : "frmScores2 viewer");
+        ExpectPlan(*h.hall, position ? "frmScores2 result" : "frmScores2 viewer");
         const auto& result = In<QLabel>(*h.hall, "lblScore");
         EXPECT_EQ(result.isVisible(), position != 0);
         EXPECT_TRUE(QRect(QPoint(), result.size()).contains(QRect(QPoint(), result.sizeHint())));

@@ -17,8 +17,8 @@
 namespace {
 
 struct Sizes : testing::Test {
-    Sizes() { ChangeSize(toldSize); }
-    ~Sizes() override { ChangeSize(toldSize); }
+    Sizes() { ChangeSize(normalSize); }
+    ~Sizes() override { ChangeSize(normalSize); }
 };
 
 struct Moment {
@@ -82,13 +82,9 @@ TEST_F(Sizes, LookTheSameWhicheverWayTheyWereComeBy) {
         }
 }
 
-// The dialog that comes up, or the window beside the table, by the menu entry that opens it.
-class Windows : public Sizes, public testing::WithParamInterface<std::pair<const char*, const char*>> {};
-
-TEST_P(Windows, FollowAndAreReachable) {
-    QApplication::setStyle(new SizedStyle);
+// entry: of the menu, that opens the dialog or the window beside the table of this name.
+void ExpectFollows(const char* entry, const QString& name) {
     WindowTable t({}, Ticks::ByHand);
-    const auto [entry, name] = GetParam();
     const auto visit = [&](const std::function<void(QWidget&)>& look) {
         t.answer = [&](QWidget& modal) {
             look(modal);
@@ -99,7 +95,7 @@ TEST_P(Windows, FollowAndAreReachable) {
             if (window->objectName() == name && window->isVisible()) t.answer(*window);
     };
     for (int percent = smallestSize; percent <= largestSize; percent += sizeStep) {
-        ChangeSize(toldSize);
+        ChangeSize(normalSize);
         QImage followed;
         visit([&](QWidget& window) {
             ChangeSize(percent);
@@ -120,10 +116,13 @@ TEST_P(Windows, FollowAndAreReachable) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Windows,
-                         testing::Values(std::pair{"mnuOptions", "frmOptions"}, std::pair{"mnuScores", "frmScores2"},
-                                         std::pair{"mnuQuickStar", "frmQuickStart"}, std::pair{"mnuAbout", "frmAbout"}),
-                         [](const auto& window) { return window.param.second; });
+TEST_F(Sizes, AreFollowedByAllWindowsWhichStayInReach) {
+    QApplication::setStyle(new SizedStyle);
+    ExpectFollows("mnuOptions", "frmOptions");
+    ExpectFollows("mnuScores", "frmScores2");
+    ExpectFollows("mnuQuickStar", "frmQuickStart");
+    ExpectFollows("mnuAbout", "frmAbout");
+}
 
 TEST_F(Sizes, AreChosenByKeysAndWheel) {
     WindowTable t;
@@ -192,7 +191,7 @@ TEST_F(Sizes, AreKeptBesideWhatElseStandsInTheFile) {
     EXPECT_EQ(RegistrySettings().LoadSettings().NumberOfColumns, 1);
     for (const char* nonsense : {"", "large", "1e9", "99999999999", "100 %", "-100"}) {
         SaveTexts(UserSettingsPath(), {{"Window/Size", nonsense}});
-        EXPECT_EQ(SizeAtStart(StoredSize(), {4000, 4000}), toldSize) << nonsense;
+        EXPECT_EQ(SizeAtStart(StoredSize(), {4000, 4000}), normalSize) << nonsense;
     }
 }
 

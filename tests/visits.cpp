@@ -69,7 +69,7 @@ static void ExpectTold(QWidget& window, const QString& name, const QStringList& 
     EXPECT_LE(widget.fontMetrics().horizontalAdvance(plain), widget.width());
 }
 
-void ExpectAsTold(QWidget& window, const QString& section) {
+void ExpectPlan(QWidget& window, const QString& section) {
     const QStringList controls = CasesOf("windows.txt", section);
     EXPECT_GT(controls.size(), 3) << section.toStdString();
     for (const QString& line : controls)

@@ -23,7 +23,7 @@ void Act(QWidget& window, const QString& act);
 void ClickAt(QWidget& control, const QPoint& point);
 
 // Holds a window against its section of windows.txt.
-void ExpectAsTold(QWidget& window, const QString& section);
+void ExpectPlan(QWidget& window, const QString& section);
 
 // The window of that name which is open, or null.
 QWidget* Shown(const char* name);

@@ -30,7 +30,7 @@ ArtDocument::ArtDocument(Art& art, Scale scale, const QFont& font, const QString
 
 QVariant ArtDocument::loadResource(int type, const QUrl& name) {
     if (type != ImageResource || name.scheme() != "art") return QTextDocument::loadResource(type, name);
-    const QSizeF told = Art::ToldSize(name.path());
+    const QSizeF told = Art::DrawnSize(name.path());
     const int width = name.query().toInt();
     if (told.isEmpty() || width <= 0) return {};
     return art_.Scaled(name.path(), {width, qRound(width * told.height() / told.width())}, devicePixelRatio_);

@@ -11,13 +11,13 @@
 
 namespace {
 constexpr int formWidth = 6495;
-constexpr int titleHeight = 405;  // the told heights are those of the frame
+constexpr int titleHeight = 405;  // the heights given are those of the frame
 constexpr QColor listGround(239, 255, 210);
 constexpr int tableFont = 13;  // 9.75 points
 constexpr int tabFont = 11;
 constexpr int smallestFont = 8;
 constexpr Place tabsPlace{47, 0, 6400, 6225};
-constexpr int rowHeight = 18;  // pixels of the told size: twenty rows and the header fill the list
+constexpr int rowHeight = 18;  // pixels of the normal size: twenty rows and the header fill the list
 constexpr std::array<int, 4> columnWidths{800, 2200, 1550, 1650};
 constexpr const char* tabCaptions[] = {"&Yamb - 6 Dice", "&Yamb - 5 Dice", "&Yahtzee - 6 Dice", "&Yahtzee - 5 Dice"};
 

@@ -30,7 +30,7 @@ private:
     QTextBrowser* text_;
     QTreeWidget* contents_;
     QLineEdit* find_;
-    int letters_ = 13;  // pixels of the told size
+    int letters_ = 13;  // pixels of the normal size
 };
 
 // The help of LCHelp23.hlp in the program's folder, which ends in the separator; not shown yet. Nothing when the file

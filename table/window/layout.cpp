@@ -10,7 +10,7 @@ constexpr ByDie<int> leftsOfFive{{245, 1150, 2070, 697, 1602, 2070}};
 int SizeAtStart(int wanted, QSize screen) {
     constexpr int height = tallestWindow - frameAndMenuHeight + menuBarHeight;
     constexpr QSize inside((windowWidth + 14) / 15, (height + 14) / 15);  // twips to pixels, none of them cut off
-    return FittingSize(IsSize(wanted) ? wanted : toldSize, inside, screen);
+    return FittingSize(IsSize(wanted) ? wanted : normalSize, inside, screen);
 }
 
 Place BoxPlace(ScoreColumn column, int top, int height, int columns) {

@@ -23,11 +23,11 @@ struct ControlPlace {
     }
 };
 
-// The told size of the window is that of its whole frame; these are what the frame and the menu bar take off.
+// The size given for the window is that of its whole frame; these are what the frame and the menu bar take off.
 inline constexpr Place windowFrame{0, 0, 4900, 8100};
 inline constexpr int windowWidth = windowFrame.width - 90;
 inline constexpr int frameAndMenuHeight = 690;
-inline constexpr int menuBarHeight = 330;  // of the told font
+inline constexpr int menuBarHeight = 330;  // at the normal size of its letters
 inline constexpr int toolbarHeight = 450;
 inline constexpr int statusBarHeight = 270;
 

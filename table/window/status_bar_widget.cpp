@@ -9,8 +9,8 @@
 #include "table/window/layout.h"
 
 namespace {
-constexpr int gapAtToldSize = 2;
-constexpr int insetAtToldSize = 3;
+constexpr int gapAtNormalSize = 2;
+constexpr int insetAtNormalSize = 3;
 
 // A player's name, which may be as long as the player likes: where it is cut it shows that it is, and tells the whole
 // under a resting mouse.
@@ -72,7 +72,7 @@ void StatusBarWidget::SetPanelLayout(int k, int widthInTwips, bool visible) {
 }
 
 void StatusBarWidget::PlacePanels() {
-    const int gap = Sized(gapAtToldSize), inset = Sized(insetAtToldSize);
+    const int gap = Sized(gapAtNormalSize), inset = Sized(insetAtNormalSize);
     int left = 0;
     for (Panel& panel : panels_) {
         panel.label->setVisible(panel.visible);
@@ -90,7 +90,7 @@ void StatusBarWidget::resizeEvent(QResizeEvent*) { PlacePanels(); }
 void StatusBarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), colour::window);
-    const int inset = Sized(insetAtToldSize);
+    const int inset = Sized(insetAtNormalSize);
     for (const Panel& panel : panels_) {
         if (!panel.visible) continue;
         PaintEdges(painter, panel.label->geometry().adjusted(-inset, -1, inset, 1), colour::softDark,

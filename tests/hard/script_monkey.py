@@ -140,7 +140,7 @@ def main():
         while done < arguments.lines:
             done += one_run(os.path.abspath(arguments.tool), pick, folder)
             runs += 1
-    print(f"{done} lines in {runs} runs, seed {arguments.seed}: no crash, every line as told")
+    print(f"{done} lines in {runs} runs, seed {arguments.seed}: no crash, every line as expected")
 
 
 if __name__ == "__main__":

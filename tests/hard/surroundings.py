@@ -23,7 +23,7 @@ TABLE, WELCOME = r"^Lucky Cup 2\.3$", "^Welcome"
 TABLE_FIRST = "ShowDialog=False\nShowSplash=False\nConfirmOnExit=True\n"
 CLOCK_ROWS = 40  # at the bottom of the window, where the picture changes by itself
 STRANGER = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
-TWIPS, MENU_BAR = 15, 330  # to a pixel; of the told size
+TWIPS, MENU_BAR = 15, 330  # to a pixel; of the normal size
 FIRST_DIE = 245 + 400, 5655 + 400 + MENU_BAR
 PATIENCE = 60
 NO_LEAKS = {"ASAN_OPTIONS": "detect_leaks=0"}  # those of libraries, where Qt ends the process and on Wayland
