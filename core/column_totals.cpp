@@ -1,7 +1,5 @@
 #include "core/column_totals.h"
 
-#include <cassert>
-
 #include "core/show.h"
 
 namespace {
@@ -16,7 +14,6 @@ void AddToTotal(Game& game, ScoreColumn column, TotalRow row, int points) {
 
 void CompleteProduct(Game& game, ScoreColumn column) {
     const auto& boxes = game.card[column].boxes;
-    assert(!boxes[rowMax].empty() && !boxes[rowMin].empty() && !boxes[rowOnes].empty());
     const int product = (TextValue(boxes[rowMax]) - TextValue(boxes[rowMin])) * TextValue(boxes[rowOnes]);
     SetTotalText(game, column, TotalRow::Product, std::to_string(product));
     AddToTotal(game, column, TotalRow::ColumnTotal, product);

@@ -6,7 +6,7 @@
 int TotalValue(const Game& game, ScoreColumn column, TotalRow row);
 void AddToTotal(Game& game, ScoreColumn column, TotalRow row, int points);
 
-// Writes (Max-Min)xOnes and adds it to the Column Total. The boxes of rows 0, 6 and 7 are written.
+// Writes (Max-Min)xOnes and adds it to the Column Total. Of rows 0, 6 and 7 an empty box counts 0.
 void CompleteProduct(Game& game, ScoreColumn column);
 
 inline constexpr int bonusPoints = 35;

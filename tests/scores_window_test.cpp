@@ -144,7 +144,7 @@ TEST(HallOfFame, ShowsTheBytesOfItsFile) {
     QByteArray whole;
     for (int row = 0; row < 20; ++row)
         whole += row == 6 ? Slot(QByteArray(1, '\0'), -9999, QByteArray(1, '\0'))
-                          : Slot(names[row % 6], scores[row % 6] - row / 6, row % 2 ? "9999999999" : "23.11.2026");
+                          : Slot(names[row % 6], scores[row % 6] ^ (row / 6), row % 2 ? "9999999999" : "23.11.2026");
     whole += QByteArray("\1\0\0\0", 4);
     for (const qsizetype size : {484, 480, 2000, 479, 100, 23, 7, 0}) {
         Hall h;

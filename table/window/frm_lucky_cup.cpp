@@ -76,6 +76,12 @@ frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
     Put(*toolBar_, {0, 0, windowWidth, toolbarHeight});
 }
 
+// Its controls report to it when they are hidden, which must not come after its end.
+frmLuckyCup::~frmLuckyCup() {
+    LetGo();
+    hide();
+}
+
 void frmLuckyCup::SetMenuStyle(QStyle& style) {
     menuBar_->SetStyle(style);
     toolBar_->setStyle(&style);

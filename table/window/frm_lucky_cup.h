@@ -18,6 +18,7 @@
 class frmLuckyCup final : public QMainWindow, public TableView {
 public:
     frmLuckyCup(EventGate& gate, Art& art);
+    ~frmLuckyCup() override;
 
     // The look of menu bar, drop-downs and toolbar, which it outlives. Without one they look like any other.
     void SetMenuStyle(QStyle& style);
