@@ -37,7 +37,7 @@ std::vector<std::string> Played(Hands hands, GameSettings settings, std::vector<
     const Game& game = twins.script.table.game;
     for (std::mt19937 random(6); !game.session.GameOverShown && twins.Alike();) {
         const auto open = OpenEvents(game);
-        const std::string event = open[random() % open.size()];
+        const std::string& event = open[random() % open.size()];
         draw(event);
         if (event == "roll" && random() % 4 == 0) draw("hint");
         if (!event.starts_with("box") || random() % 4) continue;
@@ -159,8 +159,7 @@ std::vector<QKeyCombination> Combinations(const char* keys) {
 // The arrows come first, then what plays on in a turn, and Enter last.
 const auto allKeys = Combinations(
     "Right; Left; Up; Down; 1; 2; 3; 4; 5; 6; Num+5; Num+6; H; N; B; Ctrl+Return; Ctrl+Z; Ctrl+Y; Ctrl+Z; "
-    "Ctrl+Shift+Z; "
-    "Ctrl+Num+Enter; Esc; Num+Enter; Return");
+    "Ctrl+Shift+Z; Ctrl+Num+Enter; Esc; Num+Enter; Return");
 constexpr std::size_t arrows = 4, enters = 2;
 
 void Repeat(WindowTable& t, QKeyCombination key) {

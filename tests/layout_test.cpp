@@ -54,10 +54,7 @@ QString Written(const QRect& area) {
 
 // Frames whose places follow from those of labels and boxes, panels that share the bar, and what a key of the toolbar
 // and the row of lamps hold.
-bool FollowsOthers(const QString& name) {
-    static const QRegularExpression others("^$|^(shp|Shape12_|StatusBar1_|qt_|mnu|lamps)");
-    return others.match(name).hasMatch();
-}
+const QRegularExpression followsOthers("^$|^(shp|Shape12_|StatusBar1_|qt_|mnu|lamps)");
 
 void ExpectPlaces(const WindowTable& t) {
     QSet<QString> planned;
@@ -68,7 +65,7 @@ void ExpectPlaces(const WindowTable& t) {
         EXPECT_EQ(Written(seen), Written(place)) << name.toStdString();
     }
     for (const QString& name : t.named.keys())
-        EXPECT_TRUE(planned.contains(name) || FollowsOthers(name)) << name.toStdString();
+        EXPECT_TRUE(planned.contains(name) || followsOthers.match(name).hasMatch()) << name.toStdString();
 }
 
 // The frames of a row label and of its tip stand in one line with the boxes of the row.

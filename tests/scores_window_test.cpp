@@ -66,12 +66,10 @@ struct Hall : Visits {
         QString files;
         for (int number = 1; number <= 4; ++number)
             if (QFile::exists(Path(number))) files += QString::number(number);
+        const QString first = rows == 0 ? "!" : Cell(0, 2).isEmpty() ? "-" : Cell(0, 2);
         return QString("%1 %2 %3 %4 %5%6")
             .arg(Strip().currentIndex())
-            .arg(rows == 0              ? "!"
-                 : Cell(0, 2).isEmpty() ? "-"
-                                        : Cell(0, 2),
-                 In(*hall, "cmdClearTable").isEnabled() ? "on" : "off")
+            .arg(first, In(*hall, "cmdClearTable").isEnabled() ? "on" : "off")
             .arg(selected.isEmpty() ? 0 : selected[0].row() + 1)
             .arg(files, List().showGrid() ? " grid" : "");
     }
@@ -111,13 +109,9 @@ TEST(HallOfFame, LaysOutBothWays) {
         const auto& result = In<QLabel>(*h.hall, "lblScore");
         EXPECT_EQ(result.isVisible(), position != 0);
         EXPECT_TRUE(QRect(QPoint(), result.size()).contains(QRect(QPoint(), result.sizeHint())));
-        EXPECT_EQ(result.text(),
-                  position == 0 ? ""
-                  : position == 20
-                      ? "  Your score of  -12 points was good enough to get on the \n   top scores table at "
-                        "position #20."
-                      : "  Your score of  -12 points was not good enough to get on the  \n   top scores "
-                        "table.");
+        const QString fate = position == 20 ? "good enough to get on the \n   top scores table at position #20."
+                                            : "not good enough to get on the  \n   top scores table.";
+        EXPECT_EQ(result.text(), position == 0 ? "" : "  Your score of  -12 points was " + fate);
         EXPECT_LE(h.Strip().sizeHint().width(), In<QWidget>(*h.hall, "SSTab1").width());
         EXPECT_FALSE(h.List().horizontalScrollBar()->isVisible() || h.List().verticalScrollBar()->isVisible());
         for (int column = 0; column < 4; ++column) {

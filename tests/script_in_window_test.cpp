@@ -6,9 +6,8 @@
 #include "tests/open_events.h"
 #include "tests/twin_tables.h"
 
-// The golden scripts and random ones in the real window. As many random scripts as one likes are played with
-//   RANDOM_SCRIPTS=500 RANDOM_SEED=1 build/release/tests/window_tests --gtest_filter='ScriptInWindow.Random*'
-// which play the seeds 1 to 500. Without RANDOM_SCRIPTS it is a handful.
+// The golden scripts and random ones in the real window: with RANDOM_SCRIPTS=500 RANDOM_SEED=1 those of the seeds 1 to
+// 500, by themselves a handful.
 namespace {
 
 // The lines of a file of cases, in which more likely ones stand more often.

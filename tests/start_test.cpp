@@ -1,8 +1,11 @@
 #include "core/start.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 #include "dialogs/welcome_form.h"
+#include "script/headless_table.h"
 #include "table/main_window.h"
 
 namespace {

@@ -39,9 +39,7 @@ constexpr Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Ke
                             Qt::Key_F1,     Qt::Key_F2,    Qt::Key_F10,   Qt::Key_Alt,    Qt::Key_1,    Qt::Key_6,
                             Qt::Key_H,      Qt::Key_N,     Qt::Key_B,     Qt::Key_O,      Qt::Key_X,    Qt::Key_Y,
                             Qt::Key_Z,      Qt::Key_G,     Qt::Key_Plus,  Qt::Key_Minus,  Qt::Key_0};
-constexpr Qt::KeyboardModifier modifiers[] = {Qt::NoModifier,     Qt::NoModifier,     Qt::NoModifier,
-                                              Qt::NoModifier,     Qt::AltModifier,    Qt::ShiftModifier,
-                                              Qt::KeypadModifier, Qt::ControlModifier};
+constexpr Qt::KeyboardModifier held[] = {Qt::AltModifier, Qt::ShiftModifier, Qt::KeypadModifier, Qt::ControlModifier};
 constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
 
 // What a run has met, to see how far it came.
@@ -77,6 +75,7 @@ public:
 private:
     int Below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
     const auto& Any(const auto& of) { return *std::next(std::begin(of), Below(static_cast<int>(std::size(of)))); }
+    Qt::KeyboardModifier AnyHeld() { return Below(2) ? Qt::NoModifier : Any(held); }
     QPoint Point(const QWidget& in) { return {Below(in.width()), Below(in.height())}; }
 
     GameSettings AnySettings() {
@@ -175,7 +174,7 @@ private:
         const Qt::MouseButton button = Any(buttons);
         const QPointer<QWindow> window = target.windowHandle();
         const QPoint from = Point(target), to = Below(2) ? from : Point(target);
-        QTest::mousePress(window, button, Any(modifiers), from);
+        QTest::mousePress(window, button, AnyHeld(), from);
         if (window && to != from) QTest::mouseMove(window, to);
         if (window) QTest::mouseRelease(window, button, {}, to);
     }
@@ -190,11 +189,11 @@ private:
     void Wheel(QWidget& target) {
         const QPoint at = Point(target);
         QWidget* over = target.childAt(at);
-        QWheelEvent turn(at, target.mapToGlobal(at), {}, {0, Below(2) ? 120 : -120}, {}, Any(modifiers),
-                         Qt::NoScrollPhase, false);
+        QWheelEvent turn(at, target.mapToGlobal(at), {}, {0, Below(2) ? 120 : -120}, {}, AnyHeld(), Qt::NoScrollPhase,
+                         false);
         QApplication::sendEvent(over ? over : &target, &turn);
     }
-    void PressAKey(QWidget& target) { Press(target.windowHandle(), Any(keys), Any(modifiers)); }
+    void PressAKey(QWidget& target) { Press(target.windowHandle(), Any(keys), AnyHeld()); }
     void ChangeSize(QWidget& target) {
         constexpr Qt::Key sizes[] = {Qt::Key_Plus, Qt::Key_Minus, Qt::Key_0};
         Press(target.windowHandle(), Any(sizes), Qt::ControlModifier);
@@ -203,9 +202,7 @@ private:
         if (QWidget* field = QApplication::focusWidget()) QTest::keyClicks(field, "Zo");
     }
     void Wait(QWidget&) { QTest::qWait(Below(20)); }
-    void Minimise(QWidget&) {
-        table_.window.isMinimized() ? table_.window.showNormal() : table_.window.showMinimized();
-    }
+    void Minimise(QWidget&) { table_.window.setWindowState(table_.window.windowState() ^ Qt::WindowMinimized); }
     void ChooseAnEntry(QWidget& target) {
         QList<QAction*> entries = table_.window.menuBar()->findChildren<QAction*>(QRegularExpression("^mnu."));
         if (&target == &table_.window) Any(entries)->trigger();
@@ -242,7 +239,7 @@ private:
         told_.game.card = game.card;
         told_.game.table = game.table;
         QJsonObject records = QJsonDocument::fromJson(QByteArray::fromStdString(JsonLine("", false, told_))).object();
-        records["height"] = Pixels(game.table.height - 690);
+        records["height"] = Pixels(game.table.height - frameAndMenuHeight);
         std::string besides = " minimized closed ";
         if (!table_.window.isEnabled())
             besides += "dice.enabled enabled roll.enabled undo redo hintButton showBoard.enabled ";
