@@ -14,10 +14,11 @@ std::string Folder(const QString& path) {
 ProgramFiles FilesInOneFolder(const std::string& folder) { return {folder, folder, ScoresFolder(folder)}; }
 
 ProgramFiles FindProgramFiles(const QString& programFolder, const QString& userFolder) {
-    const bool installed = QFileInfo(programFolder + "/" LUCKYCUP_DATA).isDir();
-    if (!installed || QFileInfo::exists(programFolder + "/base.cur")) return FilesInOneFolder(Folder(programFolder));
+    const QDir folder(programFolder);
+    const bool installed = QFileInfo(folder.filePath(LUCKYCUP_DATA)).isDir();
+    if (!installed || folder.exists("base.cur")) return FilesInOneFolder(Folder(programFolder));
 
     const std::string scores = ScoresFolder(Folder(userFolder));
     QDir().mkpath(QString::fromStdString(scores));
-    return {Folder(programFolder + "/" LUCKYCUP_DATA), Folder(programFolder + "/" LUCKYCUP_PLUGINS), scores};
+    return {Folder(folder.filePath(LUCKYCUP_DATA)), Folder(folder.filePath(LUCKYCUP_PLUGINS)), scores};
 }

@@ -6,7 +6,7 @@
 namespace {
 QString LockPath() {
     const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return (own.isEmpty() ? QDir::homePath() : own) + "/LuckyCup.lock";
+    return QDir(own.isEmpty() ? QDir::homePath() : own).filePath("LuckyCup.lock");
 }
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "kit/pointers.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QWidget>
@@ -33,7 +34,7 @@ QCursor HandPointer(Art& art, qreal devicePixelRatio) {
 }
 
 void SetBasePointer(QWidget& window, const QString& programFolder) {
-    QByteArray bytes = StartOfFile(programFolder + "base.cur", longestPointer);
+    QByteArray bytes = StartOfFile(QDir(programFolder).filePath("base.cur"), longestPointer);
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "cur");
     QImage image = reader.read();

@@ -81,7 +81,7 @@ bool Holds(const QSettings& key, const NamedTexts& texts) {
 // that what a save leaves that is killed goes with the next one.
 QDir FolderForDrafts(const QFileInfo& store) {
     const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return (own.isEmpty() ? store.path() : own) + "/LuckyCup.draft";
+    return QDir(own.isEmpty() ? store.path() : own).filePath("LuckyCup.draft");
 }
 
 // A store's bytes with the texts written into them by way of the folder, empty when that fails. QSettings would wait
@@ -112,7 +112,8 @@ void RegSetString(QSettings& key, std::string_view name, const std::string& text
 
 QString UserSettingsPath() {
     if (!keptInFile) return "HKEY_CURRENT_USER\\Software\\LuckyCup\\LuckyCup2.2";
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/LuckyCup/LuckyCup2.2.conf";
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    return folder.filePath("LuckyCup/LuckyCup2.2.conf");
 }
 
 GameSettings RegistrySettings::LoadSettings() {

@@ -1,6 +1,7 @@
 #include "dialogs/window/help_window.h"
 
 #include <QBoxLayout>
+#include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QPushButton>
@@ -50,7 +51,7 @@ QString WithScoresFolder(QString html, const QString& folder) {
 }  // namespace
 
 std::unique_ptr<HelpWindow> OpenHelp(const QString& programFolder, const QString& scoresFolder, Art& art) {
-    const QString html = ReadHelp(programFolder + "LCHelp23.hlp");
+    const QString html = ReadHelp(QDir(programFolder).filePath("LCHelp23.hlp"));
     if (html.isEmpty()) return nullptr;
     return std::make_unique<HelpWindow>(programFolder, WithScoresFolder(html, scoresFolder), art);
 }
