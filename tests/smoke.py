@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""smoke.py PROGRAM: starts the real program on an X display of its own, as a new user, who meets the welcome window and
+"""smoke.py PROGRAM [SCORES]: starts the real program on an X display of its own, as a new user, who meets the welcome window and
 leaves it, then plays from it with its box checked, a whole game of Yahtzee by keyboard and on into the hall of fame; at
-the next start a picture stands before the table. Expects clean ends: status 0 and nothing on stderr."""
+the next start a picture stands before the table. Expects clean ends: status 0 and nothing on stderr. The program is
+played where it lies and keeps its scores in the folder SCORES; without one a copy of its folder is played."""
 
 import pathlib
 import shutil
@@ -26,8 +27,9 @@ END, HALL_OF_FAME = "^Finish Game", "Hall of Fame$"
 class Start:
     """One start of the program."""
 
-    def __init__(self, screen, command, home, errors):
+    def __init__(self, screen, command, scores, home, errors):
         self.screen = screen
+        self.scores = pathlib.Path(scores)
         self.home = home
         self.program = screen.start(command, stderr=errors, home=home)
 
@@ -109,8 +111,7 @@ def play_a_game(start, table):
         start.play(table, "Down", "ctrl+Return")
     start.screen.press(start.window(END), "Return")
     hall = start.window(HALL_OF_FAME)
-    scores = pathlib.Path(start.program.args[0]).parent / "scores/scores3.dat"
-    name, score, _ = struct.unpack_from(RECORD, scores.read_bytes())
+    name, score, _ = struct.unpack_from(RECORD, (start.scores / "scores3.dat").read_bytes())
     if name != b"Player 1  " or score < 5:
         raise RuntimeError(f"the hall of fame holds {score} of {name}")
     x, y, _, _ = start.screen.place(hall)
@@ -138,24 +139,25 @@ def meet_the_splash(start):
 
 
 def own_copy(program, folder):
-    """The program in a folder of its own, for nobody else's scores; what is large is shared."""
+    """The program in a folder of its own, for nobody else's scores, and these; what is large is shared."""
     for part in pathlib.Path(program).parent.iterdir():
         if part.is_file():
             shutil.copy2(part, folder)
         elif part.name != "scores":
             pathlib.Path(folder, part.name).symlink_to(part)
-    pathlib.Path(folder, "scores").mkdir()
-    return pathlib.Path(folder, pathlib.Path(program).name)
+    scores = pathlib.Path(folder, "scores")
+    scores.mkdir()
+    return pathlib.Path(folder, pathlib.Path(program).name), scores
 
 
 def main():
     with tempfile.TemporaryFile() as errors, tempfile.TemporaryDirectory() as folder, Screen() as screen:
-        program = own_copy(sys.argv[1], folder)
+        program, scores = sys.argv[1:] if len(sys.argv) == 3 else own_copy(sys.argv[1], folder)
         home = screen.new_home()
         failure = None
         try:
             for visit in (leave_the_welcome, play_from_the_welcome, meet_the_splash):
-                visit(Start(screen, program, home, errors))
+                visit(Start(screen, program, scores, home, errors))
         except (RuntimeError, TimeoutError) as error:
             failure = str(error)
         errors.seek(0)
