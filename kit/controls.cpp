@@ -13,7 +13,8 @@ namespace {
 // With those first that are there. For one that is not Qt would search what stands for it with each new font.
 QStringList ThereFirst(QStringList families) {
     const QStringList there = QFontDatabase::families();
-    std::ranges::stable_partition(families, [&](const QString& family) { return there.contains(family); });
+    std::stable_partition(families.begin(), families.end(),
+                          [&](const QString& family) { return there.contains(family); });
     return families;
 }
 }  // namespace

@@ -63,7 +63,7 @@ void FixSize(QWidget& widget, int width, int height) {
     Keep(widget);
 }
 
-void SetLetters(QWidget& widget, QFont font, int pixels) {
+void SetLetters(QWidget& widget, const QFont& font, int pixels) {
     widget.setProperty(lettersKey, pixels);
     widget.setFont(font);
     KeepLetters(widget);

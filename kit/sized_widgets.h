@@ -12,7 +12,7 @@ void Put(QWidget& widget, const Place& place);
 // largest step at which it can for its own size.
 void FixSize(QWidget& widget, int width, int height);
 // A font, in letters of so many pixels at the normal size.
-void SetLetters(QWidget& widget, QFont font, int pixels = 11);
+void SetLetters(QWidget& widget, const QFont& font, int pixels = 11);
 
 // Gives all windows another size, those that are open too. A widget with more to do than to keep what it was told
 // learns of it by a change of style; its own parts have learned of it before.
