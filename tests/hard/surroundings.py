@@ -4,6 +4,7 @@ odd screens, on Wayland and on none, with its display lost, and ended by signals
 it can be seen, says nothing that it should not, and ends in its own way with the settings saved.
 surroundings.py PROGRAM [PART OF A NAME...]: all cases, or those whose names have one of the parts."""
 
+import contextlib
 import multiprocessing.pool
 import os
 import pathlib
@@ -48,24 +49,30 @@ class Play:
     """One start of the program on a screen, which is thrown away at the end."""
 
     def __init__(self, program, size=(800, 700), depth=24, settings=TABLE_FIRST, changes=None, readable=False, **how):
-        self.program, self.changes, self.how = program, changes or {}, how
+        program = pathlib.Path(program)
+        self.program, self.changes = f"./{program.name}", changes or {}
+        self.how = {**how, "cwd": program.parent}  # which a stranger may not be able to reach by its path
         self.screen = Screen(size=size, depth=depth)
         self.settings, self.readable = settings, readable
 
     def __enter__(self):
-        self.screen.__enter__()
+        with contextlib.ExitStack() as stack:
+            stack.enter_context(self.screen)
+            self.errors = stack.enter_context(tempfile.TemporaryFile())
+            self._start()
+            self._end = stack.pop_all()
+        return self
+
+    def _start(self):
         self.home = self.screen.new_home(self.settings)
         self.store = self.home / "config/LuckyCup/LuckyCup2.2.conf"
         for path in (self.home.parent, self.home, *self.home.rglob("*")):
             if self.readable:
                 os.chmod(path, 0o555 if path.is_dir() else 0o444)
-        self.errors = tempfile.TemporaryFile()
         self.process = self.screen.start(self.program, home=self.home, stderr=self.errors, changes=self.changes, **self.how)
-        return self
 
     def __exit__(self, *_):
-        self.screen.__exit__()
-        self.errors.close()
+        self._end.close()
 
     def window(self, title=TABLE):
         def find():
