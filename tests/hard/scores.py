@@ -25,7 +25,9 @@ class Game:
         self.name = f"game {seed}"
         lines = ["set NumberOfColumns 1", "set NumberOfDice 4", f"set Player1 {self.name}", f"set AppPath {place}", f"seed {seed}",
                  "start", *(f"roll\nbox 3 {row}" for row in range(12)), "roll\n"]
-        self.process = subprocess.Popen([tool], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, **how)
+        folder, program = os.path.split(os.path.abspath(tool))  # which a stranger may not be able to reach by its path
+        self.process = subprocess.Popen(["./" + program], cwd=folder, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        stderr=subprocess.PIPE, **how)
         self.process.stdin.write("\n".join(lines).encode())
         self.process.stdin.flush()
         for _ in range(26):
