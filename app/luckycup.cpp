@@ -9,7 +9,7 @@
 #include "dialogs/window/frm_welcome.h"
 #include "kit/look.h"
 #include "kit/message_box.h"
-#include "kit/sized_widgets.h"
+#include "kit/size.h"
 #include "store/settings_store.h"
 #include "store/size_store.h"
 #include "table/window/first_pictures.h"
@@ -23,7 +23,7 @@ ProgramFiles Files() {
 
 // The pictures of the first window, then those that are wanted after it.
 void RenderAhead(Art& art, qreal devicePixelRatio) {
-    std::vector batches{FirstPictures(devicePixelRatio), IconPictures()};
+    std::vector batches{MenuPictures(devicePixelRatio), FirstPictures(devicePixelRatio), IconPictures()};
     if (RegistrySettings().LoadSettings().ShowDialog)
         batches.insert(batches.begin(), WelcomePictures(devicePixelRatio));
     art.RenderAhead(std::move(batches));
@@ -32,16 +32,18 @@ void RenderAhead(Art& art, qreal devicePixelRatio) {
 
 int Main(QApplication& app) {
     EndOnSignals(app);
-    ChangeSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
+    SetSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
     Art art;
     FileLock lock;
-    if (!TakeOnlyInstance(lock)) {
+    const bool only = TakeOnlyInstance(lock);
+    if (only) RenderAhead(art, app.devicePixelRatio());  // before all that waits for the fonts
+    ApplyLook();
+    if (!only) {
         SetGameIcon(art);
         ShowMessageBox(nullptr, art,
                        {"LuckyCup Running", "LuckyCup is already running!", MessageIcon::Stop, MessageButtons::Ok});
         return 0;
     }
-    RenderAhead(art, app.devicePixelRatio());
     Program program(Files(), art);
     const int status = program.Start() ? app.exec() : 0;
     program.window.Leave();

@@ -7,7 +7,6 @@ int main(int argc, char* argv[]) {
     const auto fonts = ReadFontsAhead();
     PrepareLook();
     QApplication app(argc, argv);
-    ApplyLook();
     MakeControlsSpeak();
     return Main(app);
 }

@@ -61,10 +61,10 @@ void Art::RenderAhead(std::vector<std::vector<Wanted>> batches) {
 void Art::TakeRenderedAhead(const QString& key) {
     const auto batch = std::ranges::find_if(ahead_, [&](const Batch& one) { return one.keys.contains(key); });
     if (batch == ahead_.end()) return;
-    const Images images = batch->images.get();
+    Images images = batch->images.get();
     ahead_.erase(batch);
     for (auto image = images.begin(); image != images.end(); ++image)
-        rendered_[image.key()] = QPixmap::fromImage(image.value());
+        rendered_[image.key()] = QPixmap::fromImage(std::move(image.value()));
 }
 
 const QPixmap& Art::Picture(const QString& name, QSize devicePixels) {

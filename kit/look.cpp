@@ -39,6 +39,8 @@ void PrepareLook() {
     QApplication::setStyle(new SizedStyle);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // the bar belongs to the window's picture
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QCoreApplication::setApplicationName("LuckyCup");
+    QGuiApplication::setDesktopFileName("luckycup");
 }
 
 void ApplyLook() {
@@ -48,8 +50,6 @@ void ApplyLook() {
         palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgba(entry.colour));
     QApplication::setPalette(palette);
     ApplyFonts();
-    QCoreApplication::setApplicationName("LuckyCup");
-    QGuiApplication::setDesktopFileName("luckycup");
 }
 
 void ApplyFonts() {
@@ -68,6 +68,6 @@ void SetGameIcon(Art& art) {
 
 std::vector<Art::Wanted> IconPictures() {
     std::vector<Art::Wanted> pictures;
-    for (int size : {16, 24, 32, 48, 64, 128, 256}) pictures.push_back({"icon", {size, size}});
+    for (int size : {16, 24, 32, 48, 64, 128}) pictures.push_back({"icon", {size, size}});
     return pictures;
 }

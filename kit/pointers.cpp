@@ -34,9 +34,10 @@ QCursor HandPointer(Art& art, qreal devicePixelRatio) {
 }
 
 void SetBasePointer(QWidget& window, const QString& programFolder) {
-    QByteArray bytes = StartOfFile(QDir(programFolder).filePath("base.cur"), longestPointer);
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer, "cur");
+    const QString path = QDir(programFolder).filePath("base.cur");
+    const QByteArray bytes = StartOfFile(path, longestPointer);
+    if (bytes.isEmpty()) return;
+    QImageReader reader(path);  // of a file whose name tells what it is Qt loads one reader, of bytes all of them
     QImage image = reader.read();
     if (image.isNull()) return;
     const qreal ratio = window.devicePixelRatioF();

@@ -2,15 +2,17 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QMenuBar>
 #include <algorithm>
 #include <cmath>
 
 #include "kit/controls.h"
 #include "kit/size.h"
+#include "kit/sized_widgets.h"
 #include "menus/menu_colours.h"
 
 namespace {
-constexpr QSizeF skinSize(135, 64);
+constexpr const char* skin = "menu_skin";
 constexpr int iconGutter = 30;
 constexpr int textLeft = iconGutter + 6;
 constexpr int rightMargin = 10;
@@ -26,6 +28,9 @@ constexpr int menuFrame = 1;
 constexpr int checkMarkWidth = 12;
 
 int Middle(int whole, int part) { return static_cast<int>(std::lround((whole - part) / 2.0)); }
+
+// One tile, in device pixels.
+QSize SkinSize(qreal deviceScale) { return (QSizeF(135, 64) * Sized(deviceScale)).toSize(); }
 
 QSize ImageSize(const QIcon& icon) {
     return icon.isNull() ? QSize(0, 0) : icon.actualSize(Sized(QSize(iconGutter, iconGutter)));
@@ -146,6 +151,8 @@ QFont GetMenuFont() {
     return font;
 }
 
+std::vector<Art::Wanted> MenuPictures(qreal devicePixelRatio) { return {{skin, SkinSize(devicePixelRatio)}}; }
+
 MenuStyle::MenuStyle(Art& art, bool SkinOn) : QProxyStyle("Fusion"), art_(art), SkinOn_(SkinOn), font_(GetMenuFont()) {}
 
 QFont MenuStyle::Letters() const {
@@ -168,10 +175,10 @@ void MenuStyle::FillGround(QPainter& painter, const QRect& area, const QWidget& 
     const QPointF corner(-widget.mapTo(widget.window(), QPoint()));
     const QPoint origin = painter.deviceTransform().map(corner).toPoint();
     const QRect device = DeviceArea(painter, area);
-    const QSize tile = (skinSize * Sized(DeviceScale(painter))).toSize();
+    const QSize tile = SkinSize(DeviceScale(painter));
     painter.save();
     UseDevicePixels(painter);
-    painter.drawTiledPixmap(device, art_.Picture("menu_skin", tile), device.topLeft() - origin);
+    painter.drawTiledPixmap(device, art_.Picture(skin, tile), device.topLeft() - origin);
     painter.restore();
 }
 
@@ -264,4 +271,10 @@ int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+// With other letters a bar or menu would be measured in them, for nothing.
+void MenuStyle::polish(QWidget* widget) {
+    if (qobject_cast<QMenuBar*>(widget) || qobject_cast<QMenu*>(widget)) SetLetters(*widget, font_, letterHeight);
+    QProxyStyle::polish(widget);
 }

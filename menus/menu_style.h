@@ -9,6 +9,9 @@
 // be anything: then it is the font of the table.
 QFont GetMenuFont();
 
+// Those that a window's bar and toolbar want for their first picture.
+std::vector<Art::Wanted> MenuPictures(qreal devicePixelRatio);
+
 // The look of a menu bar, its drop-downs and a toolbar: a tiled picture as ground, a small image beside each entry, a
 // dark highlight, the shortcut at the right. It is for the widgets that it is set on, and for no others. It outlives
 // them, and the pictures outlive it. All sizes are pixels of scale 1
@@ -25,6 +28,8 @@ public:
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    void polish(QWidget* widget) override;
+    using QProxyStyle::polish;
 
 private:
     QFont Letters() const;

@@ -55,7 +55,7 @@ constexpr qint64 longestStore = 16 << 20;  // names may be long
 // Empty for what cannot be read.
 QByteArray BytesOf(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(longestStore) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(std::min(longestStore, file.size())) : QByteArray();
 }
 
 bool CopyTo(const QString& path, const QByteArray& bytes) {

@@ -12,6 +12,7 @@ std::vector<Art::Wanted> FirstPictures(qreal devicePixelRatio) {
     want("arrows_4", arrowsFourPlace);
     for (int i = 0; i < maxDice; ++i) want(QString("die_free_%1").arg(i + 1), DiePlace(i, 4, maxDice - 1));
     want("counter_blank", scorePlace.fourColumns);
+    want("box_empty", {0, 0, boxWidth, boxButtonHeight});
     want("lamp_dark", {0, 0, lampSize, lampSize});
     for (const QString& name : FirstKeyPictures())
         wanted.push_back(Art::WantedOver(name, QRect({}, KeyPictureSize()), devicePixelRatio));

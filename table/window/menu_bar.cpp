@@ -3,6 +3,7 @@
 #include <QActionGroup>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QStyle>
 #include <span>
 
 #include "core/new_game.h"
@@ -139,6 +140,7 @@ void MenuBar::keyPressEvent(QKeyEvent* event) {
 }
 
 void MenuBar::SetStyle(QStyle& style) {
+    style.polish(this);  // gives it its letters, in which the next line measures it
     setStyle(&style);
     for (QMenu* menu : findChildren<QMenu*>()) menu->setStyle(&style);
 }
