@@ -1,3 +1,5 @@
+#include <cstdio>
+
 #include "app/luckycup.h"
 #include "kit/font_list.h"
 #include "kit/look.h"
@@ -5,6 +7,10 @@
 
 int main(int argc, char* argv[]) {
     const auto fonts = ReadFontsAhead();
+    if (!fonts.valid()) {  // Qt would wait for threads of its own for ever
+        std::fputs("LuckyCup: the system lets it start no thread, and it needs a few.\n", stderr);
+        return 1;
+    }
     PrepareLook();
     QApplication app(argc, argv);
     MakeControlsSpeak();

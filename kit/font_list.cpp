@@ -10,6 +10,6 @@ std::future<void> ReadFontsAhead() {
     try {
         return std::async(std::launch::async, [] { FcInit(); });
     } catch (const std::system_error&) {
-        return {};  // no thread to be had: they are read when they are first wanted
+        return {};
     }
 }

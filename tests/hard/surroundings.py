@@ -217,6 +217,12 @@ def little_memory(program):
         plays(preexec_fn=limited(resource.RLIMIT_AS, needed + (256 << 20)))(program)
 
 
+def no_threads(program):
+    with Play(program, changes=NO_LEAKS, preexec_fn=limited(resource.RLIMIT_NPROC, 1), **STRANGER) as play:
+        expect(play.process.wait(PATIENCE) == 1, f"status {play.process.returncode}")
+        expect("no thread" in play.said(), f"says only {play.said()}")
+
+
 def no_fonts(program):
     with tempfile.NamedTemporaryFile("w", suffix=".conf") as none:
         none.write('<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>')
@@ -304,6 +310,7 @@ CASES = {
     "no fonts": no_fonts,
     "20 descriptors": plays(preexec_fn=limited(resource.RLIMIT_NOFILE, 20)),
     "256 MB": little_memory,
+    "no threads": no_threads,
     "display lost": loses_the_display,
     "small screen": small_screen,
     "depth 16": plays(depth=16),
