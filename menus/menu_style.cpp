@@ -128,7 +128,8 @@ void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const
     const int height = Sized(textHeight);
     const QRect line(cell.left(), cell.top() + Middle(cell.height(), height), cell.width(), height);
     const QPoint corner = DeviceArea(painter, line).topLeft();
-    const int flags = static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextShowMnemonic;
+    const int flags =
+        static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextShowMnemonic | Qt::TextDontClip;
     const qreal scale = DeviceScale(painter);
     const auto draw = [&](QPoint devicePixels, const QColor& ink) {
         painter.save();

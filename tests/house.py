@@ -26,9 +26,9 @@ EVERYONE = {"app", "tests", "bench"}
 # timers serves the program and the headless table.
 EXCEPTIONS = {("core", "table/table_view.h"), ("script", "app/tick.h")}
 
-# The rooms that know Qt, and the one that knows SDL.
+# The rooms that know Qt, and the one that knows what makes a sound.
 QT = {"store", "kit", "table/window", "dialogs/window", "sound/player", "menus", "app", "resources"} | EVERYONE
-SDL = {"sound/player"} | EVERYONE
+SOUND = {"sound/player"} | EVERYONE
 # Of the rooms that know everyone, the files that must run without Qt.
 WITHOUT_QT = {"app/tick.h", "app/tick.cpp"}
 
@@ -55,8 +55,8 @@ def faults_of(path, text):
         qt = re.match(r"Q[A-Z]|Qt", header)
         if qt and (room not in QT or path in WITHOUT_QT):
             yield f"{path}: {room} may not use Qt ({header})"
-        if header.startswith("SDL") and room not in SDL:
-            yield f"{path}: {room} may not use SDL ({header})"
+        if re.match(r"SDL|alsa/|mpg123", header) and room not in SOUND:
+            yield f"{path}: {room} may not use what sounds ({header})"
 
 
 def cycles(needs):

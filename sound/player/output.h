@@ -16,7 +16,8 @@ public:
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
-    // The mixer belongs to whoever holds the lock.
+    // The mixer belongs to whoever holds the lock. Only the game's thread changes what its voices play, and may read
+    // that without it.
     std::unique_lock<std::mutex> Lock() { return std::unique_lock(shared_->mutex); }
     Mixer& Voices() { return shared_->mixer; }
 

@@ -131,12 +131,19 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
 // A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table. An open menu hands
 // on the keys that it does not know.
 void MenuBar::keyPressEvent(QKeyEvent* event) {
+    QKeyEvent leave(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     if (event->key() == Qt::Key_F10)
-        setActiveAction(nullptr);
+        QMenuBar::keyPressEvent(&leave);  // with no active action it would still open what the mouse comes over
     else if (activeAction())
         QMenuBar::keyPressEvent(event);
     else
         event->ignore();
+}
+
+// Where the mouse takes over from the keys it takes the bar out of them too: what it lights up is not selected.
+void MenuBar::mouseMoveEvent(QMouseEvent* event) {
+    if (hasFocus() && !activeAction()) clearFocus();
+    QMenuBar::mouseMoveEvent(event);
 }
 
 void MenuBar::SetStyle(QStyle& style) {

@@ -20,6 +20,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
     QAction* Entry(const char* name) const { return findChild<QAction*>(name); }
