@@ -88,7 +88,12 @@ QAccessibleInterface* Spoken(const QString& className, QObject* object) {
 }
 }  // namespace
 
-void MakeControlsSpeak() { QAccessible::installFactory(Spoken); }
+void MakeControlsSpeak() {
+    QAccessible::installFactory(Spoken);
+    // Asking makes the bridge to the screen readers, which the first name told would do: it waits for a thread of its
+    // own, and longer once those that work ahead keep the processors busy.
+    QAccessible::isActive();
+}
 
 void Say(QWidget& control, const QString& name) {
     if (control.accessibleName() != name) control.setAccessibleName(name);
