@@ -2,6 +2,8 @@
 
 #include <QScreen>
 #include <QStandardPaths>
+#include <algorithm>
+#include <iterator>
 
 #include "app/end_signals.h"
 #include "app/program.h"
@@ -21,12 +23,12 @@ ProgramFiles Files() {
                             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
-// The pictures of the first window, then those that are wanted after it.
-void RenderAhead(Art& art, qreal devicePixelRatio) {
-    std::vector batches{MenuPictures(devicePixelRatio), FirstPictures(devicePixelRatio), IconPictures()};
-    if (RegistrySettings().LoadSettings().ShowDialog)
-        batches.insert(batches.begin(), WelcomePictures(devicePixelRatio));
-    art.RenderAhead(std::move(batches));
+// The pictures of the first window alone: the others would only take its time.
+std::vector<Art::Wanted> PicturesAhead(qreal devicePixelRatio) {
+    if (RegistrySettings().LoadSettings().ShowDialog) return WelcomePictures(devicePixelRatio);
+    std::vector<Art::Wanted> pictures = FirstPictures(devicePixelRatio);
+    std::ranges::move(MenuPictures(devicePixelRatio), std::back_inserter(pictures));
+    return pictures;
 }
 }  // namespace
 
@@ -36,7 +38,7 @@ int Main(QApplication& app) {
     Art art;
     FileLock lock;
     const bool only = TakeOnlyInstance(lock);
-    if (only) RenderAhead(art, app.devicePixelRatio());  // before all that waits for the fonts
+    if (only) art.RenderAhead(PicturesAhead(app.devicePixelRatio()));  // before all that waits for the fonts
     ApplyLook();
     if (!only) {
         SetGameIcon(art);

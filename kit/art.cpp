@@ -35,20 +35,12 @@ Art::Wanted Art::WantedOver(const QString& name, const QRect& area, qreal device
              device(area.top() + area.height()) - device(area.top())}};
 }
 
-void Art::RenderAhead(std::vector<std::vector<Wanted>> batches) {
-    std::vector<std::packaged_task<Images()>> tasks;
-    for (std::vector<Wanted>& pictures : batches) {
-        Batch& batch = ahead_.emplace_back();
-        for (const auto& [name, size] : pictures) batch.keys.insert(KeyOf(name, size));
-        tasks.emplace_back([pictures = std::move(pictures)] {
-            Images images;
-            for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
-            return images;
-        });
-        batch.images = tasks.back().get_future();
-    }
-    auto renderAll = [tasks = std::move(tasks)]() mutable {
-        for (std::packaged_task<Images()>& task : tasks) task();
+void Art::RenderAhead(std::vector<Wanted> pictures) {
+    for (const auto& [name, size] : pictures) ahead_.insert(KeyOf(name, size));
+    auto renderAll = [pictures = std::move(pictures)] {
+        Images images;
+        for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
+        return images;
     };
     try {
         worker_ = std::async(std::launch::async, std::move(renderAll));
@@ -57,12 +49,10 @@ void Art::RenderAhead(std::vector<std::vector<Wanted>> batches) {
     }
 }
 
-// Only who wants one of them waits for them.
 void Art::TakeRenderedAhead(const QString& key) {
-    const auto batch = std::ranges::find_if(ahead_, [&](const Batch& one) { return one.keys.contains(key); });
-    if (batch == ahead_.end()) return;
-    Images images = batch->images.get();
-    ahead_.erase(batch);
+    if (!ahead_.contains(key)) return;
+    ahead_.clear();
+    Images images = worker_.get();
     for (auto image = images.begin(); image != images.end(); ++image)
         rendered_[image.key()] = QPixmap::fromImage(std::move(image.value()));
 }

@@ -22,9 +22,9 @@ public:
     // The picture as Draw will want it over an area of a window, in pixels.
     static Wanted WantedOver(const QString& name, const QRect& area, qreal devicePixelRatio);
 
-    // Begins to render pictures that will be wanted soon, one batch after the other, beside what else there is to do.
-    // Who wants one of them waits for its batch. At most once.
-    void RenderAhead(std::vector<std::vector<Wanted>> batches);
+    // Begins to render pictures that will be wanted soon, beside what else there is to do. Who wants one of them waits
+    // for all. At most once.
+    void RenderAhead(std::vector<Wanted> pictures);
 
     // The size that the picture was drawn for, in pixels; empty when there is no such picture.
     static QSize DrawnSize(const QString& name);
@@ -42,16 +42,12 @@ public:
 
 private:
     using Images = QHash<QString, QImage>;
-    struct Batch {
-        QSet<QString> keys;
-        std::future<Images> images;
-    };
 
     void TakeRenderedAhead(const QString& key);
 
     QHash<QString, QPixmap> rendered_;
-    std::vector<Batch> ahead_;  // that nobody has wanted yet
-    std::future<void> worker_;
+    QSet<QString> ahead_;  // what the worker renders, until one of them is wanted
+    std::future<Images> worker_;
 };
 
 // How many device pixels a painter puts in the place of one: also where a widget is drawn into a picture of another

@@ -62,12 +62,6 @@ void ApplyFonts() {
 
 void SetGameIcon(Art& art) {
     QIcon icon;
-    for (const auto& [name, size] : IconPictures()) icon.addPixmap(art.Scaled(name, size, 1));
+    for (int size : {16, 24, 32, 48, 64, 128}) icon.addPixmap(art.Scaled("icon", {size, size}, 1));
     QApplication::setWindowIcon(icon);
-}
-
-std::vector<Art::Wanted> IconPictures() {
-    std::vector<Art::Wanted> pictures;
-    for (int size : {16, 24, 32, 48, 64, 128}) pictures.push_back({"icon", {size, size}});
-    return pictures;
 }

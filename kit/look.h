@@ -8,5 +8,4 @@ void PrepareLook();  // before the application object is made
 void ApplyLook();    // after it
 void ApplyFonts();   // those of all windows and tool tips, at the size that is now; part of ApplyLook
 
-void SetGameIcon(Art& art);               // of every window
-std::vector<Art::Wanted> IconPictures();  // that this takes
+void SetGameIcon(Art& art);  // of every window

@@ -14,8 +14,8 @@ std::vector<Art::Wanted> MenuPictures(qreal devicePixelRatio);
 
 // The look of a menu bar, its drop-downs and a toolbar: a tiled picture as ground, a small image beside each entry, a
 // dark highlight, the shortcut at the right. It is for the widgets that it is set on, and for no others. It outlives
-// them, and the pictures outlive it. All sizes are pixels of scale 1
-// and of the normal size of the program, with which they grow.
+// them, and the pictures outlive it. All sizes are pixels of scale 1 and of the normal size of the program, with which
+// they grow.
 class MenuStyle final : public QProxyStyle {
 public:
     // SkinOn: the ground is the tiled picture, otherwise it is of one colour.

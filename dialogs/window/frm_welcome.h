@@ -9,10 +9,10 @@
 
 class QPushButton;
 
-// The start dialog, in the middle of the screen. Enter is Play; Escape and the close box are Exit.
 // The pictures that it shows first.
 std::vector<Art::Wanted> WelcomePictures(qreal devicePixelRatio);
 
+// The start dialog, in the middle of the screen. Enter is Play; Escape and the close box are Exit.
 class frmWelcome final : public DialogWindow {
 public:
     frmWelcome(Game& game, Art& art);
