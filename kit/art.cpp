@@ -1,8 +1,9 @@
 #include "kit/art.h"
 
 #include <QSvgRenderer>
-#include <algorithm>
-#include <system_error>
+#include <QThreadPool>
+#include <memory>
+#include <type_traits>
 
 // The resources lie in a static library, which the linker would take without them. The macro must not stand in a
 // namespace.
@@ -22,6 +23,16 @@ QImage Render(const QString& name, QSize size) {
     renderer.render(&painter, QRectF(QPointF(0, 0), size));
     return image;
 }
+
+// In a thread of Qt's pool. Any other that fills a large area hands it to the pool in pieces and waits for each, which
+// takes longer than our pictures do.
+template <typename Work>
+auto InPool(Work work) {
+    const auto task = std::make_shared<std::packaged_task<std::invoke_result_t<Work>()>>(std::move(work));
+    auto result = task->get_future();
+    QThreadPool::globalInstance()->start([task] { (*task)(); });
+    return result;
+}
 }  // namespace
 
 Art::Art() { TakeResources(); }
@@ -37,16 +48,11 @@ Art::Wanted Art::WantedOver(const QString& name, const QRect& area, qreal device
 
 void Art::RenderAhead(std::vector<Wanted> pictures) {
     for (const auto& [name, size] : pictures) ahead_.insert(KeyOf(name, size));
-    auto renderAll = [pictures = std::move(pictures)] {
+    worker_ = InPool([pictures = std::move(pictures)] {
         Images images;
         for (const auto& [name, size] : pictures) images[KeyOf(name, size)] = Render(name, size);
         return images;
-    };
-    try {
-        worker_ = std::async(std::launch::async, std::move(renderAll));
-    } catch (const std::system_error&) {
-        ahead_.clear();  // no thread to be had: each picture is rendered when it is first wanted
-    }
+    });
 }
 
 void Art::TakeRenderedAhead(const QString& key) {
@@ -61,7 +67,7 @@ const QPixmap& Art::Picture(const QString& name, QSize devicePixels) {
     const QString key = KeyOf(name, devicePixels);
     TakeRenderedAhead(key);
     QPixmap& picture = rendered_[key];
-    if (picture.isNull()) picture = QPixmap::fromImage(Render(name, devicePixels));
+    if (picture.isNull()) picture = QPixmap::fromImage(InPool([&] { return Render(name, devicePixels); }).get());
     return picture;
 }
 
