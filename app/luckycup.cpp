@@ -2,8 +2,6 @@
 
 #include <QScreen>
 #include <QStandardPaths>
-#include <algorithm>
-#include <iterator>
 
 #include "app/end_signals.h"
 #include "app/program.h"
@@ -12,6 +10,7 @@
 #include "kit/look.h"
 #include "kit/message_box.h"
 #include "kit/size.h"
+#include "menus/menu_style.h"
 #include "store/settings_store.h"
 #include "store/size_store.h"
 #include "table/window/first_pictures.h"
@@ -23,11 +22,12 @@ ProgramFiles Files() {
                             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
-// The pictures of the first window alone: the others would only take its time.
+// The pictures of the first window alone, since the others would only take its time; behind the splash those of the
+// table, which follows it.
 std::vector<Art::Wanted> PicturesAhead(qreal devicePixelRatio) {
     if (RegistrySettings().LoadSettings().ShowDialog) return WelcomePictures(devicePixelRatio);
     std::vector<Art::Wanted> pictures = FirstPictures(devicePixelRatio);
-    std::ranges::move(MenuPictures(devicePixelRatio), std::back_inserter(pictures));
+    for (Art::Wanted& picture : MenuPictures(devicePixelRatio)) pictures.push_back(std::move(picture));
     return pictures;
 }
 }  // namespace

@@ -3,6 +3,7 @@
 // stands for the device, at the pace of a real one, and writes into a pipe. sound_bench PROGRAM_FOLDER
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,6 +14,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -21,20 +24,21 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Steady = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
 constexpr const char* effect = "holdDice";
 constexpr auto untilItEnds = 700ms;     // the device stays open
-constexpr auto untilItCloses = 6500ms;  // the device does not
+constexpr auto untilItCloses = 6500ms;  // it does not, since nothing has sounded for 5 s
+constexpr auto patience = 5000ms;
 constexpr int opened = 20, reopened = 5;
 constexpr double bufferMs = 1000.0 * 512 / 44100;
 
 class Device {
 public:
     Device() {
-        mkfifo(path_.c_str(), 0600);
-        pipe_ = open(path_.c_str(), O_RDWR);  // it does not end when the writer closes
+        if (mkfifo(path_.c_str(), 0600) == 0) pipe_ = open(path_.c_str(), O_RDWR);  // does not end with its writer
+        if (pipe_ < 0) throw std::runtime_error("no pipe " + path_.string());
         setenv("SDL_AUDIODRIVER", "disk", 1);
         setenv("SDL_DISKAUDIOFILE", path_.c_str(), 1);
     }
@@ -48,28 +52,33 @@ public:
     // Waits for something that is not silence.
     void Hear() const {
         std::array<std::int16_t, 1024> samples{};
-        while (std::ranges::count(samples, 0) == std::ssize(samples))
-            if (read(pipe_, samples.data(), sizeof samples) <= 0) std::abort();
+        const auto end = Steady::now() + patience;
+        while (std::ranges::count(samples, 0) == std::ssize(samples)) {
+            pollfd waiting{pipe_, POLLIN, 0};
+            const bool came = poll(&waiting, 1, static_cast<int>(patience / 1ms)) > 0;
+            if (!came || Steady::now() > end || read(pipe_, samples.data(), sizeof samples) <= 0)
+                throw std::runtime_error("nothing is heard");
+        }
     }
     // Passes over what comes meanwhile. A full pipe would hold up who writes.
-    void Skip(Clock::duration time) const {
+    void Skip(Steady::duration time) const {
         std::array<char, 65536> bytes{};
         fcntl(pipe_, F_SETFL, O_NONBLOCK);
-        for (const auto end = Clock::now() + time; Clock::now() < end; std::this_thread::sleep_for(20ms))
+        for (const auto end = Steady::now() + time; Steady::now() < end; std::this_thread::sleep_for(20ms))
             while (read(pipe_, bytes.data(), bytes.size()) > 0) continue;
         fcntl(pipe_, F_SETFL, 0);
     }
 
 private:
     std::filesystem::path path_ = std::filesystem::temp_directory_path() / ("sound_bench." + std::to_string(getpid()));
-    int pipe_;
+    int pipe_ = -1;
 };
 
-double MsUntilHeard(SoundLoader& sound, const Device& device, Clock::duration rest) {
-    const auto begin = Clock::now();
+double MsUntilHeard(SoundLoader& sound, const Device& device, Steady::duration rest) {
+    const auto begin = Steady::now();
     sound.PlayEffect(effect);
     device.Hear();
-    const std::chrono::duration<double, std::milli> ms = Clock::now() - begin;
+    const std::chrono::duration<double, std::milli> ms = Steady::now() - begin;
     device.Skip(rest);
     return ms.count();
 }
@@ -83,11 +92,8 @@ void Report(const char* what, std::vector<double> ms) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("sound_bench PROGRAM_FOLDER\n", stderr);
-        return 2;
-    }
+int main(int argc, char** argv) try {
+    if (argc != 2) throw std::runtime_error("sound_bench PROGRAM_FOLDER");
     const std::string folder = std::string(argv[1]) + '/';
     const Device device;
     SilentClock clock;
@@ -100,4 +106,7 @@ int main(int argc, char** argv) {
     for (int i = 0; i < reopened; ++i) anew.push_back(MsUntilHeard(sound, device, untilItCloses));
     Report("device closed meanwhile", anew);
     return 0;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
 }

@@ -24,8 +24,8 @@ QImage Render(const QString& name, QSize size) {
     return image;
 }
 
-// In a thread of Qt's pool. Any other that fills a large area hands it to the pool in pieces and waits for each, which
-// takes longer than our pictures do.
+// In a thread of Qt's pool. In any other, Qt splits every larger fill among the pool's threads and waits for them,
+// which takes longer than the picture itself.
 template <typename Work>
 auto InPool(Work work) {
     const auto task = std::make_shared<std::packaged_task<std::invoke_result_t<Work>()>>(std::move(work));
@@ -36,6 +36,11 @@ auto InPool(Work work) {
 }  // namespace
 
 Art::Art() { TakeResources(); }
+
+// What is drawn must not outlive the application.
+Art::~Art() {
+    if (worker_.valid()) worker_.wait();
+}
 
 QSize Art::DrawnSize(const QString& name) { return QSvgRenderer(":/art/" + name + ".svg").viewBoxF().size().toSize(); }
 

@@ -18,19 +18,22 @@ public:
     };
 
     Art();
+    ~Art();
+    Art(const Art&) = delete;
+    Art& operator=(const Art&) = delete;
 
     // The picture as Draw will want it over an area of a window, in pixels.
     static Wanted WantedOver(const QString& name, const QRect& area, qreal devicePixelRatio);
 
     // Begins to render pictures that will be wanted soon, beside what else there is to do. Who wants one of them waits
-    // for all. At most once.
+    // for all; on a machine with one processor so does who wants any other. At most once.
     void RenderAhead(std::vector<Wanted> pictures);
 
     // The size that the picture was drawn for, in pixels; empty when there is no such picture.
     static QSize DrawnSize(const QString& name);
 
-    // The picture with this name, such as "die_free_3", filling so many device pixels. The reference holds until the
-    // next call.
+    // The picture with this name, such as "die_free_3", filling so many device pixels, for the thread of the windows.
+    // The reference holds until the next call.
     const QPixmap& Picture(const QString& name, QSize devicePixels);
 
     // Draws the picture over an area in the painter's coordinates, snapped to whole device pixels so that it stays

@@ -90,8 +90,8 @@ QAccessibleInterface* Spoken(const QString& className, QObject* object) {
 
 void MakeControlsSpeak() {
     QAccessible::installFactory(Spoken);
-    // Asking makes the bridge to the screen readers, which the first name told would do: it waits for a thread of its
-    // own, and longer once those that work ahead keep the processors busy.
+    // Asking makes the bridge to the screen readers now and not with the first name told. Making it waits for a thread
+    // of Qt's, and longer once those that work ahead keep the processors busy.
     QAccessible::isActive();
 }
 

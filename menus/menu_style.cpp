@@ -128,6 +128,7 @@ void DrawCaption(QPainter& painter, const QRect& cell, Qt::Alignment side, const
     const int height = Sized(textHeight);
     const QRect line(cell.left(), cell.top() + Middle(cell.height(), height), cell.width(), height);
     const QPoint corner = DeviceArea(painter, line).topLeft();
+    // A desktop's letters may be taller than the line.
     const int flags =
         static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextShowMnemonic | Qt::TextDontClip;
     const qreal scale = DeviceScale(painter);

@@ -16,8 +16,8 @@ public:
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
-    // The mixer belongs to whoever holds the lock. Only the game's thread changes what its voices play, and may read
-    // that without it.
+    // The mixer belongs to whoever holds the lock. Only the game's thread opens and closes a piece of music, and may
+    // ask without the lock whether there is one.
     std::unique_lock<std::mutex> Lock() { return std::unique_lock(shared_->mutex); }
     Mixer& Voices() { return shared_->mixer; }
 

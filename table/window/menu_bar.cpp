@@ -131,16 +131,18 @@ MenuBar::MenuBar(QWidget* parent, Art& art, const CommandRunner& runner) : QMenu
 // A bar that was left keeps the focus; without a menu chosen on it the keys are those of the table. An open menu hands
 // on the keys that it does not know.
 void MenuBar::keyPressEvent(QKeyEvent* event) {
-    QKeyEvent leave(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    if (event->key() == Qt::Key_F10)
-        QMenuBar::keyPressEvent(&leave);  // with no active action it would still open what the mouse comes over
-    else if (activeAction())
+    if (event->key() == Qt::Key_F10) {
+        // Setting no action active would leave the bar ready to open what the mouse comes over.
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QMenuBar::keyPressEvent(&escape);
+    } else if (activeAction()) {
         QMenuBar::keyPressEvent(event);
-    else
+    } else {
         event->ignore();
+    }
 }
 
-// Where the mouse takes over from the keys it takes the bar out of them too: what it lights up is not selected.
+// A bar with the focus shows the entry under the mouse as selected by keys, so the mouse takes the focus from it.
 void MenuBar::mouseMoveEvent(QMouseEvent* event) {
     if (hasFocus() && !activeAction()) clearFocus();
     QMenuBar::mouseMoveEvent(event);
