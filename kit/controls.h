@@ -12,7 +12,7 @@
 // window.
 
 // A font of the game's families, or of those that stand for them, in so many device-independent pixels at the
-// told size.
+// normal size.
 QFont TableFont(bool bold, int pixels = 11);
 // The same font, smaller where the text would not fit the width in pixels.
 QFont FittedFont(QFont font, const QString& text, int width);

@@ -14,6 +14,7 @@
 #include "core/start.h"
 #include "table/row_names.h"
 #include "table/window/key_bindings.h"
+#include "tests/files.h"
 #include "tests/visits.h"
 
 namespace {
@@ -44,7 +45,7 @@ struct Session : Visits {
 
 TEST(Welcome, LeadsEverywhereByKeysAndByMouse) {
     Session t;
-    t.Play(CasesOf("sessions.txt", "welcome"),
+    t.Play(CasesOf("visits.txt", "welcome"),
            {{"start", [&] { t.Start(); }},
             {"look", [] { ExpectPlan(*Shown("frmWelcome"), "frmWelcome"); }},
             {"look at the guide", [] { ExpectPlace("frmQuickStart", *Shown("frmWelcome")); }}});
@@ -81,20 +82,20 @@ TEST(Splash, EndsOnce) {
         EXPECT_EQ(splash.geometry(), QRect(place / 15, QSize(378, 210)));
         EXPECT_TRUE(splash.windowFlags().testFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint));
     };
-    t.Play(CasesOf("sessions.txt", "splash"), {{"open", open},
-                                               {"wait", [] {}},
-                                               {"it took its time", [&] { EXPECT_GE(clock.elapsed(), 599); }},
-                                               {"click", [] { QTest::mouseClick(Shown("frmSplash"), Qt::LeftButton); }},
-                                               {"rest", [] { QTest::qWait(700); }}});
+    t.Play(CasesOf("visits.txt", "splash"), {{"open", open},
+                                             {"wait", [] {}},
+                                             {"it took its time", [&] { EXPECT_GE(clock.elapsed(), 599); }},
+                                             {"click", [] { QTest::mouseClick(Shown("frmSplash"), Qt::LeftButton); }},
+                                             {"rest", [] { QTest::qWait(700); }}});
     t.dialogs.UnloadSplash();
     EXPECT_EQ(t.Log(), "");
 }
 
 TEST(About, DisablesTheTableUntilItHasGone) {
     Visits t;
-    t.Play(CasesOf("sessions.txt", "about"), {{"open", [&] { t.dialogs.frmAbout(t.game); }},
-                                              {"look", [&] { ExpectPlace("frmAbout", t.window); }},
-                                              {"menu", [&] { t.ClickEntry("mnuAbout"); }}});
+    t.Play(CasesOf("visits.txt", "about"), {{"open", [&] { t.dialogs.frmAbout(t.game); }},
+                                            {"look", [&] { ExpectPlace("frmAbout", t.window); }},
+                                            {"menu", [&] { t.ClickEntry("mnuAbout"); }}});
     std::optional<QtDialogs> others(std::in_place, t.window, t.gate, t.art);
     others->frmAbout(t.game);
     EXPECT_TRUE(!t.window.isEnabled() && Shown("frmAbout")->isEnabled());
@@ -190,13 +191,13 @@ TEST(Guide, IsReadAndPrintedBesideTheTable) {
             dynamic_cast<QDialog&>(dialog).accept();
         };
     };
-    t.Play(CasesOf("sessions.txt", "guide"), {{"open", [&] { t.dialogs.frmQuickStart(t.game); }},
-                                              {"select Free Column", select("Free Column")},
-                                              {"select Thank You", select("Thank You")},
-                                              {"to all.pdf", to("all.pdf")},
-                                              {"to words.pdf", to("words.pdf")},
-                                              {"to nowhere", to("/proc/guide.pdf")},
-                                              {"unload", [&] { t.dialogs.UnloadQuickStart(); }}});
+    t.Play(CasesOf("visits.txt", "guide"), {{"open", [&] { t.dialogs.frmQuickStart(t.game); }},
+                                            {"select Free Column", select("Free Column")},
+                                            {"select Thank You", select("Thank You")},
+                                            {"to all.pdf", to("all.pdf")},
+                                            {"to words.pdf", to("words.pdf")},
+                                            {"to nowhere", to("/proc/guide.pdf")},
+                                            {"unload", [&] { t.dialogs.UnloadQuickStart(); }}});
     EXPECT_EQ(QApplication::clipboard()->text(), "Free Column");
     EXPECT_EQ(PdfText(t.folder.filePath("all.pdf")),
               Letters(CasesOf("guide.txt").join("")).remove(QRegularExpression("[*☺]")));
@@ -217,14 +218,8 @@ struct Help {
     DesktopShell shell{folder.path().toStdString() + '/', "/where/the <scores> lie", art};
 };
 
-QByteArray HelpText() {
-    QFile file(HELP_FILE);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
 TEST(Help, ShowsNothingOfAFileThatIsNotWhole) {
-    const QByteArray whole = HelpText();
+    const QByteArray whole = BytesOf(HELP_FILE);
     for (const QByteArray& text : {QByteArray(), QByteArray(""), whole.left(whole.size() / 2), whole + '\xFF'}) {
         const Help help(text);
         EXPECT_FALSE(Shown("Help"));
@@ -250,7 +245,7 @@ QStringList KeysOfTheTable() {
 }
 
 TEST(Help, TellsOfEverythingAndItsLinksLead) {
-    const Help help(HelpText());
+    const Help help(BytesOf(HELP_FILE));
     QWidget& window = *Shown("Help");
     const QTextDocument& text = *In<QTextBrowser>(window, "text").document();
     EXPECT_TRUE(!window.isModal() && text.toPlainText().contains("/where/the <scores> lie"));
@@ -284,8 +279,8 @@ TEST(Help, TellsOfEverythingAndItsLinksLead) {
 TEST(Help, IsReadByMouseAndKeys) {
     Visits t;
     t.describe = TextInView;
-    Help help(HelpText());
-    t.Play(CasesOf("sessions.txt", "help"),
+    Help help(BytesOf(HELP_FILE));
+    t.Play(CasesOf("visits.txt", "help"),
            {{"open", [&] { help.shell.ShowHelpContents(); }}, {"close the help", [&] { help.shell.CloseHelp(); }}});
 }
 

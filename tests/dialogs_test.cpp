@@ -33,8 +33,8 @@ TEST(Options, EndByTheirKeys) {
             .arg(now.BGMusicVolume)
             .arg(QString::fromStdString(now.Player2));
     };
-    t.Play(CasesOf("sessions.txt", "options"), {{"open", [&] { t.dialogs.frmOptions(t.game); }},
-                                                {"look", [] { ExpectPlan(*Shown("frmOptions"), "frmOptions"); }}});
+    t.Play(CasesOf("visits.txt", "options"), {{"open", [&] { t.dialogs.frmOptions(t.game); }},
+                                              {"look", [] { ExpectPlan(*Shown("frmOptions"), "frmOptions"); }}});
     EXPECT_EQ(t.game.settings.NumberOfColumns, 1) << "cancelled";
 }
 

@@ -10,6 +10,7 @@
 #include "kit/qt_clock.h"
 #include "kit/regular_file.h"
 #include "store/windows_1252.h"
+#include "tests/files.h"
 
 namespace {
 
@@ -37,7 +38,9 @@ TEST(StartOfFile, ReadsOfRegularFilesOnly) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("0123456789") == 10 && file.flush());
     EXPECT_EQ(StartOfFile(path, 4), "0123");
     EXPECT_EQ(StartOfFile(path, 99), "0123456789");
-    ASSERT_TRUE(file.resize(5'000'000'000));
+    ASSERT_TRUE(file.seek(0) && file.write(BytesOf(QFileInfo(HELP_FILE).path() + "/../base.cur")) > 99);
+    ASSERT_TRUE(file.seek(14) && file.write("\xFF\xFF\xFF\x7F") &&
+                file.resize(5'000'000'000));  // a size that is not there
     EXPECT_EQ(StartOfFile(path, 99).size(), 99);
     QWidget window;
     SetBasePointer(window, folder.path() + '/');

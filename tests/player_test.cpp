@@ -19,6 +19,7 @@
 #include "app/program.h"
 #include "core/end_of_game.h"
 #include "core/silent_ports.h"
+#include "tests/files.h"
 
 using namespace std::chrono_literals;
 
@@ -43,17 +44,6 @@ QByteArray Wave(const QByteArray& mono) {
     return header + mono;
 }
 
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
-    file.write(bytes);
-}
-
-QByteArray Read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 struct WaitingClock final : SilentClock {
     void Wait(int ms) override { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); }
 };
@@ -72,9 +62,11 @@ struct Recording {
 
     QString Path(const QString& name) const { return dir.filePath(name); }
     std::string Folder() const { return dir.path().toStdString() + '/'; }
-    void AddEffect(const QString& name, int hz, int ms) { Write(Path("LCWAVS/" + name + ".WAV"), Wave(Tone(hz, ms))); }
+    void AddEffect(const QString& name, int hz, int ms) {
+        WriteFile(Path("LCWAVS/" + name + ".WAV"), Wave(Tone(hz, ms)));
+    }
     void AddMusic(const QString& name, const QByteArray& tones) {
-        Write(Path("tones.wav"), Wave(tones));
+        WriteFile(Path("tones.wav"), Wave(tones));
         ASSERT_EQ(QProcess::execute("lame", {"--quiet", "-m", "m", "-b", "320", Path("tones.wav"), Path(name)}), 0);
     }
     std::string Open(const QString& name) const { return "open \"" + Path(name).toStdString() + "\" alias song"; }
@@ -85,7 +77,7 @@ struct Recording {
 
     // After the device has closed: for how many ms a tone was heard, and how loud, as a part of its own amplitude.
     void ExpectTone(int hz, int least, int most, double level = 1) const {
-        const QByteArray bytes = Read(Path("heard"));
+        const QByteArray bytes = BytesOf(Path("heard"));
         std::vector<double> levels;
         for (qsizetype at = 0; (at + window) * 4 <= bytes.size(); at += window) {
             double re = 0, im = 0;
@@ -178,11 +170,11 @@ TEST(Player, DamagedFilesAreSilent) {
     std::ranges::generate(noise, std::minstd_rand());
     for (const char* ending : {".WAV", ".mp3"}) {
         const auto file = [&](const QString& name) { return s.Path("LCWAVS/" + name + ending); };
-        const QByteArray whole = Read(file("half"));
-        Write(file("half"), whole.left(whole.size() / 2));
-        Write(file("header"), whole.left(44));
-        Write(file("empty"), "");
-        Write(file("noise"), noise);
+        const QByteArray whole = BytesOf(file("half"));
+        WriteFile(file("half"), whole.left(whole.size() / 2));
+        WriteFile(file("header"), whole.left(44));
+        WriteFile(file("empty"), "");
+        WriteFile(file("noise"), noise);
         QDir().mkdir(file("folder"));
         EXPECT_EQ(mkfifo(file("pipe").toLocal8Bit(), 0600), 0);
     }
@@ -242,7 +234,7 @@ TEST(SoundingProgram, DoesWithTheMusicWhatEachEventAsks) {
         {"two players", [&] { t.program->game.settings.NumberOfPlayers = 2; }},
         {"second player", [&] { t.program->game.session.SecondPlayerOnMove.fill(true); }}};
     t.program->ShowMainWindow();
-    EXPECT_FALSE(Read("/proc/self/maps").contains("luckycup-sound")) << "a start pays for no sound";
+    EXPECT_FALSE(BytesOf("/proc/self/maps").contains("luckycup-sound")) << "a start pays for no sound";
     std::ifstream in(CASES "music_events.txt");
     in.ignore(1000, '\n');
     int rows = 0, ms = 0;

@@ -5,6 +5,7 @@
 #include <QtEndian>
 
 #include "dialogs/window/frm_scores2.h"
+#include "tests/files.h"
 #include "tests/visits.h"
 
 namespace {
@@ -46,10 +47,7 @@ struct Hall : Visits {
         ASSERT_TRUE(QTest::qWaitForWindowActive(hall.get()));
     }
     QString Path(int number) const { return folder.filePath(QString("scores/scores%1.dat").arg(number)); }
-    void Write(int number, const QByteArray& bytes) const {
-        QFile file(Path(number));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
+    void Write(int number, const QByteArray& bytes) const { WriteFile(Path(number), bytes); }
     QTableView& List() const { return In<QTableView>(*hall, "LVScores"); }
     QTabBar& Strip() const { return *In<QTabWidget>(*hall, "SSTab1").tabBar(); }
     QModelIndex Index(int row, int column) const { return List().model()->index(row, column); }

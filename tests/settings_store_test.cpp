@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <functional>
 
+#include "tests/files.h"
+
 namespace {
 
 class SettingsStoreTest : public testing::Test {
@@ -26,20 +28,12 @@ protected:
         QDir().mkpath(QFileInfo(path).path());
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(parent));
     }
-    void Write(const QByteArray& bytes) const {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    QByteArray Bytes() const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
-    }
     static GameSettings Load() { return RegistrySettings().LoadSettings(); }
     static void Save(const GameSettings& settings) { RegistrySettings().SaveSettings(settings); }
     GameSettings LoadInNextRun() {
-        const QByteArray written = Bytes();
+        const QByteArray written = BytesOf(path);
         NewStore();
-        Write(written);
+        WriteFile(path, written);
         return Load();
     }
 
@@ -53,9 +47,9 @@ const GameSettings changed{4, 2, 1, "Ann", "", false, false, false, true, false,
 
 TEST_F(SettingsStoreTest, EveryValueIsWrittenAsText) {
     EXPECT_EQ(Load(), GameSettings{});
-    EXPECT_EQ(Bytes(), "none") << "reading writes nothing";
+    EXPECT_EQ(BytesOf(path), "none") << "reading writes nothing";
     Save(changed);
-    EXPECT_EQ(Bytes(),
+    EXPECT_EQ(BytesOf(path),
               "[General]\nBGMusicEnabled=True\nBGMusicVolume=1000\nConfirmOnExit=False\nConfirmQuitGame=False\n"
               "NumberOfColumns=1\nNumberOfDice=4\nNumberOfPlayers=2\nPlayer1=Ann\nPlayer2=\nShowDialog=False\n"
               "ShowGridLines=False\nShowSplash=True\nShowStatusBar=False\nSoundEnabled=False\nhintAllways=False\n");
@@ -90,7 +84,7 @@ TEST_F(SettingsStoreTest, WhatAFieldCannotHaveGivesItsDefault) {
     };
     for (const auto& [lines, expected] : cases) {
         NewStore();
-        Write(QByteArray("[General]\nNumberOfDice=4\nPlayer2=Bob\n") + lines + "\n");
+        WriteFile(path, QByteArray("[General]\nNumberOfDice=4\nPlayer2=Bob\n") + lines + "\n");
         EXPECT_EQ(Load(), expected) << lines;
     }
 }
@@ -99,7 +93,7 @@ TEST_F(SettingsStoreTest, DamagedStoreStillStartsAndIsMended) {
     const QByteArray noise = QByteArray::fromHex("00ff5b3d5d0a22c3285c78ffff0a403d400a").repeated(60'000);
     for (const QByteArray& damage : {QByteArray(), QByteArray("[Gen"), noise, "NumberOfDice\n=\n" + noise}) {
         NewStore();
-        Write(damage);
+        WriteFile(path, damage);
         EXPECT_EQ(Load(), GameSettings{});
         Save(changed);
         EXPECT_EQ(LoadInNextRun(), changed);

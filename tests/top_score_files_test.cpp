@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <functional>
 
+#include "tests/files.h"
+
 namespace {
 
 const QByteArray unused = QByteArray::fromHex("00202020202020202020 f1d8ffff 00202020202020202020");
@@ -35,14 +37,6 @@ protected:
     void TearDown() override { ASSERT_EQ(seteuid(getuid()), 0); }
 
     QString Path() const { return folder.filePath("scores/scores1.dat"); }
-    void Write(const QByteArray& bytes) const {
-        QFile file(Path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    QByteArray Bytes() const {
-        QFile file(Path());
-        return file.open(QIODevice::ReadOnly) ? file.read(1 << 20) : QByteArray("unreadable");
-    }
     QStringList Names() const {
         return QDir(folder.filePath("scores")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     }
@@ -84,15 +78,15 @@ TEST_F(TopScoreFilesTest, FirstRecordLaysTheWholeTable) {
     for (const auto& [record, slot] : cases) {
         EXPECT_EQ(files.Record(1, record), 1);
         const QByteArray first = QByteArray::fromHex(slot);
-        EXPECT_EQ(Bytes().toHex(), (first + unused.repeated(19) + trailer).toHex()) << record.PlayerName;
+        EXPECT_EQ(BytesOf(Path()).toHex(), (first + unused.repeated(19) + trailer).toHex()) << record.PlayerName;
         files.DeleteTopScores(1);
         EXPECT_FALSE(files.TopScoreFileExists(1));
     }
 }
 
 TEST_F(TopScoreFilesTest, LoadTellsWhatTheBytesSay) {
-    Write(QByteArray::fromHex("20808a9fe98120202020 0cfeffff 322f00ffffffffffffff") + unused + Zeros(1) +
-          Slot(9).left(15));
+    WriteFile(Path(), QByteArray::fromHex("20808a9fe98120202020 0cfeffff 322f00ffffffffffffff") + unused + Zeros(1) +
+                          Slot(9).left(15));
     const auto records = files.LoadTopScores(1);
     EXPECT_EQ(records[0], (ScoreRecord{" €ŠŸé\u0081", -500, "2/"}));
     EXPECT_EQ(records[1], ScoreRecord{});
@@ -126,9 +120,9 @@ TEST_F(TopScoreFilesTest, RecordUpdatesLikeInPlace) {
          Slots(1207, 1188) + trailer + Slots(1187, 1100).mid(4) + Slot(1100) + Slots(1098, 1000) + QByteArray(8, 'x')},
     };
     for (const Case& c : cases) {
-        Write(c.before);
+        WriteFile(Path(), c.before);
         EXPECT_EQ(Record(c.score), c.place) << c.what;
-        EXPECT_EQ(Bytes().toHex(), c.after.toHex()) << c.what;
+        EXPECT_EQ(BytesOf(Path()).toHex(), c.after.toHex()) << c.what;
     }
     EXPECT_EQ(Names(), QStringList({"scores1.dat"}));
 }
@@ -156,7 +150,7 @@ TEST_F(TopScoreFilesTest, WhatIsNoTableFails) {
 }
 
 TEST_F(TopScoreFilesTest, ProtectedFilesFail) {
-    Write(Slots(9, 9) + unused.repeated(19) + trailer);
+    WriteFile(Path(), Slots(9, 9) + unused.repeated(19) + trailer);
     const QByteArray scores = QFile::encodeName(folder.filePath("scores"));
     const QByteArray table = QFile::encodeName(Path());
     for (const QByteArray& path : {QFile::encodeName(folder.path()), scores, table})

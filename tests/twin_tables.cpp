@@ -14,6 +14,7 @@
 #include "table/window/counter_display.h"
 #include "tests/mark_ways.h"
 #include "tests/state_differences.h"
+#include "tests/visits.h"
 
 namespace {
 
@@ -130,11 +131,6 @@ std::string IconOf(const QMessageBox& box, Art& art) {
         if (shown.toImage() == art.Scaled(QString("message_") + icon, {32, 32}, shown.devicePixelRatio()).toImage())
             return icon;
     return "none";
-}
-
-void ClickIn(QWidget& dialog, const QString& name) {
-    auto& button = *dialog.findChild<QAbstractButton*>(name);
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(10, button.height() / 2));
 }
 
 // What stands for a setting in frmOptions; with a value, the button that chooses it.
@@ -260,7 +256,7 @@ void TwinTables::AnswerDialog(QWidget& modal) {
     } else if (name == "frmOptions") {
         ChangeOptions(modal);
         const bool ok = NextAnswerIs(HeadlessAnswer::Ok);
-        ClickIn(modal, ok ? "HoverCommand1" : "HoverCommand2");
+        Act(modal, ok ? "@HoverCommand1" : "@HoverCommand2");
         window->log.push_back(ok ? "dialog frmOptions|ok" : "dialog frmOptions|cancel");
     } else {
         Press(*modal.findChild<QAbstractButton*>(name == "frmTheWinerIs" ? "cmdClose" : "cmdReturn"));
@@ -283,7 +279,7 @@ void TwinTables::ChangeOptions(QWidget& dialog) {
             slider->setValue(std::stoi(value));
         } else if (!control->value.empty() ||
                    dynamic_cast<QAbstractButton*>(widget)->isChecked() != (value == "True")) {
-            ClickIn(dialog, control->name);
+            Act(dialog, QString("@") + control->name);
         }
     }
 }

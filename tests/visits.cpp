@@ -137,8 +137,8 @@ void Visits::Step() {
     EXPECT_TRUE(wanted_.isEmpty() || found == wanted_) << line_.toStdString() << "\ncame to: " << found.toStdString();
     wanted_.clear();
     heard_.clear();
-    if (session_.isEmpty()) return;
-    line_ = session_.takeFirst();
+    if (acts_.isEmpty()) return;
+    line_ = acts_.takeFirst();
     wanted_ = line_.section(" | ", 1);
     patience_.setRemainingTime(3000);
     const QString act = line_.section(" | ", 0, 0);
@@ -150,11 +150,11 @@ void Visits::Step() {
     running_.removeLast();
 }
 
-void Visits::Play(const QStringList& session, const QHash<QString, std::function<void()>>& others) {
-    EXPECT_FALSE(session.isEmpty());
+void Visits::Play(const QStringList& acts, const QHash<QString, std::function<void()>>& others) {
+    EXPECT_FALSE(acts.isEmpty());
     Log();
-    session_ = session;
+    acts_ = acts;
     others_ = others;
-    const auto played = [this] { return session_.isEmpty() && wanted_.isEmpty(); };
+    const auto played = [this] { return acts_.isEmpty() && wanted_.isEmpty(); };
     EXPECT_TRUE(QTest::qWaitFor(played, 120'000)) << line_.toStdString();
 }

@@ -33,7 +33,7 @@ QWidget* Shown(const char* name);
 struct Visits : WindowTable {
     explicit Visits(const GameSettings& settings = {});
     // Acts on the window in front, or of these others; behind " | " stands what an act has to come to, in time.
-    void Play(const QStringList& session, const QHash<QString, std::function<void()>>& others);
+    void Play(const QStringList& acts, const QHash<QString, std::function<void()>>& others);
     std::string Log();  // since the last call, without pauses
 
     // What is to be told of the window in front besides its name and the control that has the keyboard.
@@ -45,7 +45,7 @@ private:
     QWidget& InFront() const;
     QString Front() const;
 
-    QStringList session_;  // what is left of it
+    QStringList acts_;  // what is left of it
     QHash<QString, std::function<void()>> others_;
     QString line_, wanted_;  // the last one, and what it still has to come to
     QString heard_;          // since

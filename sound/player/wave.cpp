@@ -7,10 +7,10 @@
 
 namespace {
 
-Samples Convert(const SDL_AudioSpec& spec, const Uint8* wave, Uint32 length) {
+Samples Convert(const SDL_AudioSpec& format, const Uint8* wave, Uint32 length) {
     SDL_AudioCVT plan;
-    if (length == 0 || SDL_BuildAudioCVT(&plan, spec.format, spec.channels, spec.freq, AUDIO_S16SYS, samplesPerFrame,
-                                         framesPerSecond) < 0)
+    if (length == 0 || SDL_BuildAudioCVT(&plan, format.format, format.channels, format.freq, AUDIO_S16SYS,
+                                         samplesPerFrame, framesPerSecond) < 0)
         return {};
     std::vector<Uint8> bytes(length * static_cast<std::size_t>(plan.len_mult));
     std::memcpy(bytes.data(), wave, length);
@@ -28,11 +28,11 @@ Samples Convert(const SDL_AudioSpec& spec, const Uint8* wave, Uint32 length) {
 Samples LoadWave(const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) return {};  // a pipe would keep the game waiting
-    SDL_AudioSpec spec;
+    SDL_AudioSpec format;
     Uint8* wave = nullptr;
     Uint32 length = 0;
-    if (!SDL_LoadWAV(path.c_str(), &spec, &wave, &length)) return {};
-    Samples samples = Convert(spec, wave, length);
+    if (!SDL_LoadWAV(path.c_str(), &format, &wave, &length)) return {};
+    Samples samples = Convert(format, wave, length);
     SDL_FreeWAV(wave);
     return samples;
 }

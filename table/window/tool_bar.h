@@ -15,11 +15,11 @@ struct CommandRunner {
 
 inline constexpr int keyCount = 12;
 
-// Toolbar2: eight small buttons with pictures and four separators.
 // What the keys show before anybody has played, and its size in pixels.
 QStringList FirstKeyPictures();
 QSize KeyPictureSize();
 
+// Toolbar2: eight small buttons with pictures and four separators.
 class ToolBar final : public QWidget {
 public:
     ToolBar(QWidget* parent, Art& art, const CommandRunner& runner);
