@@ -88,7 +88,12 @@ QAccessibleInterface* Spoken(const QString& className, QObject* object) {
 }
 }  // namespace
 
-void MakeControlsSpeak() { QAccessible::installFactory(Spoken); }
+void MakeControlsSpeak() {
+    QAccessible::installFactory(Spoken);
+    // Asking makes the bridge to the screen readers now and not with the first name told. Making it waits for a thread
+    // of Qt's, and longer once those that work ahead keep the processors busy.
+    QAccessible::isActive();
+}
 
 void Say(QWidget& control, const QString& name) {
     if (control.accessibleName() != name) control.setAccessibleName(name);

@@ -6,7 +6,7 @@
 // What a screen reader is told of the controls that the game draws itself. Pictures and frames without a name are
 // decoration and do not show there.
 
-void MakeControlsSpeak();  // before the first of them is made
+void MakeControlsSpeak();  // after the application object is made, before the first of them is
 
 // Each tells the screen reader what is new, and nothing when nothing is.
 void Say(QWidget& control, const QString& name);

@@ -2,11 +2,13 @@
 """atspi.py PROGRAM [SETTING=VALUE...]: plays a whole game as a screen reader does, by what the controls say of themselves,
 by what they announce and by their actions alone, from the welcome window to the hall of fame and out of the program.
 Without settings it is Yahtzee for one with six dice; by hand it plays any game, such as NumberOfColumns=4
-NumberOfPlayers=2 NumberOfDice=4 (which stands for five). Needs a session bus of its own: dbus-run-session. Ends with
-status 77, which skips the test, where the bus of the screen readers can't be had."""
+NumberOfPlayers=2 NumberOfDice=4 (which stands for five). Ends with status 77, which skips the test, where the bus of the
+screen readers can't be had."""
 
+import contextlib
 import os
 import re
+import subprocess
 import sys
 import tempfile
 
@@ -20,6 +22,7 @@ except (ImportError, ValueError) as missing:
     print(missing)
     sys.exit(SKIPPED)
 
+from own_copy import own_copy
 from screen import Screen, wait_for
 
 TABLE, HALL_OF_FAME, FINISH, WINNER = "Lucky Cup( 2.3| - .*)", "Lucky Cup - Hall of Fame", "Finish Game.", "And the .*"
@@ -31,13 +34,15 @@ ROWS = 13
 class Reader:
     """What a screen reader sees of the program, and hears from it."""
 
-    def __init__(self, program):
-        self.program = program
+    def __init__(self, start):
+        """start: starts the program."""
         self.heard = []  # new names, in order, and the names of what it was led to
         self._table = []  # the controls of the table, which stay
         self._listener = Atspi.EventListener.new(self._hear)
         for event in "object:property-change:accessible-name", "object:state-changed:focused":
             self._listener.register(event)
+        # A program that asks who listens while that is still being told never hears of the rest.
+        self.program = start()
 
     def _hear(self, event):
         self.heard.append(("focus: " if event.type.endswith("focused") else "") + (event.source.get_name() or ""))
@@ -78,16 +83,16 @@ class Reader:
         def ask():
             if self.program.poll() is not None:
                 raise RuntimeError(f"the program ended with status {self.program.returncode}, wanted {what}")
+            # The name that was kept of a control gives way to its new one when that is heard.
+            while GLib.MainContext.default().iteration(False):
+                pass
             return answer()
         return wait_for(what, ask, pause=0.02)
 
     def wait_to_hear(self, *names):
         """Since the last press."""
-        def ask():
-            while GLib.MainContext.default().iteration(False):
-                pass
-            return all(any(re.fullmatch(name, heard) for heard in self.heard) for name in names)
-        self.wait(f"word of {names}", ask)
+        self.wait(f"word of {names}",
+                  lambda: all(any(re.fullmatch(name, heard) for heard in self.heard) for name in names))
 
     def action(self, title, name):
         """A control and which of its actions presses it, once it can be pressed."""
@@ -138,7 +143,7 @@ def finish(reader):
     """Goes through the windows at the end of one player's game, up to the winner's or back to the table."""
     reader.press(FINISH, "Finish Game")
     reader.wait(HALL_OF_FAME, lambda: reader.shows(HALL_OF_FAME, "Player [12]"))
-    # The list may hold games of others that were played in the same folder.
+    # Of two players, in the second's hall of fame.
     totals = {control.get_name() for control in reader.find(HALL_OF_FAME, r"-?\d{2,4}")}
     reader.press(HALL_OF_FAME, "Return")
     reader.wait("the end of the hall of fame", lambda: not reader.shows(HALL_OF_FAME, "Return"))
@@ -171,16 +176,35 @@ def play(reader, columns=1, players=1, hold_enter=None):
     wait_for("the end of the program", lambda: reader.program.poll() is not None)
 
 
+@contextlib.contextmanager
+def session_bus(folder):
+    """Its address. The bus of the screen readers, which it starts, lies in that folder too: where users have no runtime
+    folder all sessions would share one place, and the second would have no bus."""
+    bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
+                           stderr=subprocess.DEVNULL, text=True, env={**os.environ, "XDG_RUNTIME_DIR": folder})
+    try:
+        yield bus.stdout.readline().strip()
+    finally:
+        bus.terminate()
+        bus.wait()
+
+
 def main():
-    if "DBUS_SESSION_BUS_ADDRESS" not in os.environ:
-        print("no session bus, nor dbus-run-session to start one")
-        sys.exit(SKIPPED)
     settings = {"NumberOfColumns": "1", "hintAllways": "True", **dict(word.split("=") for word in sys.argv[2:])}
     os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
-    with tempfile.TemporaryFile() as errors, Screen(bus=os.environ["DBUS_SESSION_BUS_ADDRESS"]) as screen:
+    with contextlib.ExitStack() as stack:
+        folder = stack.enter_context(tempfile.TemporaryDirectory(ignore_cleanup_errors=True))
+        errors = stack.enter_context(tempfile.TemporaryFile())
+        try:
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = stack.enter_context(session_bus(folder))
+        except FileNotFoundError as missing:
+            print(missing)
+            sys.exit(SKIPPED)
+        screen = stack.enter_context(Screen(bus=os.environ["DBUS_SESSION_BUS_ADDRESS"]))
         os.environ["DISPLAY"] = screen.display
         home = screen.new_home("".join(f"{name}={value}\n" for name, value in settings.items()))
-        reader = Reader(screen.start(sys.argv[1], stderr=errors, home=home))
+        program = own_copy(sys.argv[1], folder + "/game")
+        reader = Reader(lambda: screen.start(program, stderr=errors, home=home))
         failure = None
 
         def hold_enter():
@@ -190,7 +214,7 @@ def main():
         try:
             play(reader, int(settings["NumberOfColumns"]), int(settings.get("NumberOfPlayers", 1)), hold_enter)
         except (RuntimeError, TimeoutError) as error:
-            failure = str(error)
+            failure = f"{error}, heard {reader.heard}"
         errors.seek(0)
         complaints = errors.read().decode(errors="replace")
         if failure or complaints:

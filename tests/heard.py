@@ -10,7 +10,6 @@ import functools
 import os
 import pathlib
 import re
-import shutil
 import subprocess
 import sys
 import tempfile
@@ -20,6 +19,7 @@ import wave
 
 import numpy as np
 
+from own_copy import own_copy
 from screen import Screen, wait_for
 
 RATE = 44100  # frames a second
@@ -138,15 +138,9 @@ class Game:
         if window_manager:
             self.screen.start("openbox", "--config-file", "/dev/null", stderr=subprocess.DEVNULL)
             wait_for("the window manager", lambda: int(self.screen.xdotool("get_num_desktops") or 0))
-        own = folder / "game"
-        (own / "scores").mkdir(parents=True)
-        for file in program.parent.iterdir():
-            if file.name not in ("scores", program.name):
-                (own / file.name).symlink_to(songs if songs and file.name == "BGMusic" else file)
-        self.sounds = Sounds(own)
-        # Where it lies itself tells the program where its files lie.
-        self.process = self.screen.start(shutil.copy(program, own), stderr=self._errors,
-                                         home=self.screen.new_home(SETTINGS + settings))
+        own = own_copy(program, folder / "game", songs)
+        self.sounds = Sounds(own.parent)
+        self.process = self.screen.start(own, stderr=self._errors, home=self.screen.new_home(SETTINGS + settings))
         self.table = self.window(TABLE)
 
     def window(self, title):

@@ -5,12 +5,12 @@ the next start a picture stands before the table. Expects clean ends: status 0 a
 played where it lies and keeps its scores in the folder SCORES; without one a copy of its folder is played."""
 
 import pathlib
-import shutil
 import struct
 import sys
 import tempfile
 import time
 
+from own_copy import own_copy
 from screen import Screen, wait_for
 
 CLOCK_ROWS = 40  # at the bottom of the window, where the picture changes by itself
@@ -138,21 +138,10 @@ def meet_the_splash(start):
     start.wait_for_end()
 
 
-def own_copy(program, folder):
-    """The program in a folder of its own, for nobody else's scores, and these; what is large is shared."""
-    for part in pathlib.Path(program).parent.iterdir():
-        if part.is_file():
-            shutil.copy2(part, folder)
-        elif part.name != "scores":
-            pathlib.Path(folder, part.name).symlink_to(part)
-    scores = pathlib.Path(folder, "scores")
-    scores.mkdir()
-    return pathlib.Path(folder, pathlib.Path(program).name), scores
-
-
 def main():
     with tempfile.TemporaryFile() as errors, tempfile.TemporaryDirectory() as folder, Screen() as screen:
-        program, scores = sys.argv[1:] if len(sys.argv) == 3 else own_copy(sys.argv[1], folder)
+        program = sys.argv[1] if len(sys.argv) == 3 else own_copy(sys.argv[1], folder + "/game")
+        scores = sys.argv[2] if len(sys.argv) == 3 else program.parent / "scores"
         home = screen.new_home()
         failure = None
         try:
