@@ -18,7 +18,6 @@
 #include "table/main_window.h"
 #include "table/presses.h"
 #include "table/window/key_bindings.h"
-#include "table/window/tool_tips.h"
 
 namespace {
 constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -50,30 +49,9 @@ std::function<void(Game&)> IfRollOpen(void (*handler)(Game&)) {
 }
 }  // namespace
 
-frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art)
-    : QMainWindow(nullptr, fixedWindow),
-      gate_(gate),
-      art_(art),
-      table_(new TableArea(this,
-                           [this] {
-                               SetPointers();
-                               SetGameIcon(art_);
-                           })),
-      lines_(table_),
-      labels_(table_),
-      board_(table_, art_, BoardEvents()),
-      tray_(table_, art_, TrayEvents()),
-      score_(new CounterDisplay(table_, art_, Counter(CounterPicture::picScore))),
-      toolBar_(new ToolBar(table_, art_, Commands())),
-      menuBar_(new MenuBar(this, art_, Commands())),
-      statusBar_(new StatusBarWidget(table_)) {
+frmLuckyCup::frmLuckyCup(EventGate& gate, Art& art) : QMainWindow(nullptr, fixedWindow), gate_(gate), art_(art) {
     setObjectName("frmLuckyCup");
-    Say(*table_, "Table");
-    score_->setToolTip(counterTip);
-    setMenuBar(menuBar_);
-    setCentralWidget(table_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    Put(*toolBar_, {0, 0, windowWidth, toolbarHeight});
 }
 
 // Its controls report to it when they are hidden, which must not come after its end.
@@ -82,14 +60,10 @@ frmLuckyCup::~frmLuckyCup() {
     hide();
 }
 
-void frmLuckyCup::SetMenuStyle(QStyle& style) {
-    menuBar_->SetStyle(style);
-    toolBar_->setStyle(&style);
-}
-
 void frmLuckyCup::Load(Game& game) {
     assert(!game_);
     game_ = &game;
+    controls_.emplace(*this, art_, Counter(CounterPicture::picScore), menuStyle_, Events());
     PlaceOnScreen();
     Run(Form_Load);
 }
@@ -103,8 +77,8 @@ void frmLuckyCup::SetPointers() {
     if (!game_) return;
     SetBasePointer(*this, QString::fromStdString(game_->session.AppPath));
     const QCursor hand = HandPointer(art_, devicePixelRatioF());
-    board_.SetPointer(hand);
-    tray_.SetPointers(hand, cursor());
+    controls_->board.SetPointer(hand);
+    controls_->tray.SetPointers(hand, cursor());
 }
 
 void frmLuckyCup::PlaceOnScreen() {
@@ -123,7 +97,7 @@ void frmLuckyCup::Run(const std::function<void(Game&)>& handler) {
         if (!game_) return;  // it has left
         Follow(*game_, mark_);
         ShowMark();
-        board_.SetAnnounced(game_->session.Announced);
+        controls_->board.SetAnnounced(game_->session.Announced);
         LeadReader(game_->table);
     });
 }
@@ -142,9 +116,9 @@ bool frmLuckyCup::Covered() const {
 
 void frmLuckyCup::ShowMark() {
     if (std::exchange(shownMark_, mark_.box) == mark_.box) return;
-    board_.ShowMark(mark_.box);
-    if (mark_.box) return SayFocus(board_.Button(mark_.box->column, mark_.box->row));
-    TextLabel& written = board_.BoxLabel(mark_.last.column, mark_.last.row);
+    controls_->board.ShowMark(mark_.box);
+    if (mark_.box) return SayFocus(controls_->board.Button(mark_.box->column, mark_.box->row));
+    TextLabel& written = controls_->board.BoxLabel(mark_.last.column, mark_.last.row);
     SayFocus(written.text().isEmpty() ? static_cast<QWidget&>(*this) : written);
 }
 
@@ -155,9 +129,22 @@ void frmLuckyCup::LeadReader(const TableState& table) {
     for (int i = 0; i < maxDice; ++i) {
         const DieState& die = table.dice[i];
         if (die.shown) faces << QString::number(die.face);
-        if (std::exchange(toldHeld_[i], die.held) != die.held && sameRoll) SayFocus(tray_.ShownDie(i));
+        if (std::exchange(toldHeld_[i], die.held) != die.held && sameRoll) SayFocus(controls_->tray.ShownDie(i));
     }
-    if (!sameRoll && table.lamps > 0) tray_.SayRoll(faces.join(' '));
+    if (!sameRoll && table.lamps > 0) controls_->tray.SayRoll(faces.join(' '));
+}
+
+TableControls::Events frmLuckyCup::Events() {
+    return {
+        .firstPicture =
+            [this] {
+                SetPointers();
+                SetGameIcon(art_);
+            },
+        .board = BoardEvents(),
+        .tray = TrayEvents(),
+        .commands = {.run = [this](GameCommand command) { Play(command); }, .exit = [this] { AskToLeave(); }},
+    };
 }
 
 Board::Events frmLuckyCup::BoardEvents() {
@@ -193,39 +180,35 @@ DiceTray::Events frmLuckyCup::TrayEvents() {
     };
 }
 
-CommandRunner frmLuckyCup::Commands() {
-    return {.run = [this](GameCommand command) { Play(command); }, .exit = [this] { AskToLeave(); }};
-}
-
 void frmLuckyCup::SetBoxText(ScoreColumn column, int row, const std::string& text) {
-    board_.SetBoxText(column, row, Text(text));
+    controls_->board.SetBoxText(column, row, Text(text));
 }
 
 void frmLuckyCup::SetTotalText(ScoreColumn column, TotalRow row, const std::string& text) {
-    board_.SetTotalText(column, row, Text(text));
+    controls_->board.SetTotalText(column, row, Text(text));
 }
 
 void frmLuckyCup::SetTipText(int row, const std::string& text) {
-    labels_.SetTip(row, Text(text));
-    board_.SetHint(row, Text(text));
+    controls_->labels.SetTip(row, Text(text));
+    controls_->board.SetHint(row, Text(text));
 }
 
 void frmLuckyCup::ShowTipColumn(bool on) {
-    labels_.ShowTips(on);
-    board_.ShowHints(on);
+    controls_->labels.ShowTips(on);
+    controls_->board.ShowHints(on);
 }
 
 void frmLuckyCup::SetFrameHeight(int columns) {
-    labels_.SetFrameHeight(columns);
-    lines_.SetFrameHeight(columns);
+    controls_->labels.SetFrameHeight(columns);
+    controls_->lines.SetFrameHeight(columns);
 }
 
 void frmLuckyCup::LayOut(int columns, int lastDieIndex) {
-    labels_.LayOut(columns);
-    lines_.LayOut(columns);
-    board_.LayOut(columns);
-    tray_.LayOut(columns, lastDieIndex);
-    Put(*score_, scorePlace.In(columns));
+    controls_->labels.LayOut(columns);
+    controls_->lines.LayOut(columns);
+    controls_->board.LayOut(columns);
+    controls_->tray.LayOut(columns, lastDieIndex);
+    Put(*controls_->score, scorePlace.In(columns));
 }
 
 // Qt takes a single [*] for its mark of a changed document.
@@ -233,34 +216,34 @@ void frmLuckyCup::SetTitle(std::string_view text) { setWindowTitle(Text(text).re
 
 void frmLuckyCup::SetWindowHeight(int twips) {
     const int inner = twips - frameAndMenuHeight;
-    FixSize(*table_, windowWidth, inner);
-    Put(*statusBar_, {0, inner - statusBarHeight, windowWidth, statusBarHeight});
+    FixSize(*controls_->area, windowWidth, inner);
+    Put(*controls_->statusBar, {0, inner - statusBarHeight, windowWidth, statusBarHeight});
     layout()->activate();
 }
 
-void frmLuckyCup::SetPanelText(int k, std::string_view text) { statusBar_->SetPanelText(k, Text(text)); }
+void frmLuckyCup::SetPanelText(int k, std::string_view text) { controls_->statusBar->SetPanelText(k, Text(text)); }
 
 void frmLuckyCup::SetUndoEnabled(bool on) {
-    menuBar_->SetUndoEnabled(on);
-    toolBar_->SetUndoEnabled(on);
+    controls_->menuBar->SetUndoEnabled(on);
+    controls_->toolBar->SetUndoEnabled(on);
 }
 
 void frmLuckyCup::SetRedoEnabled(bool on) {
-    menuBar_->SetRedoEnabled(on);
-    toolBar_->SetRedoEnabled(on);
+    controls_->menuBar->SetRedoEnabled(on);
+    controls_->toolBar->SetRedoEnabled(on);
 }
 
 void frmLuckyCup::ShowChoice(MenuChoice choice, bool on) {
-    menuBar_->ShowChoice(choice, on);
-    if (choice == MenuChoice::Sounds) toolBar_->ShowSound(on);
-    if (choice == MenuChoice::Music) toolBar_->ShowMusic(on);
+    controls_->menuBar->ShowChoice(choice, on);
+    if (choice == MenuChoice::Sounds) controls_->toolBar->ShowSound(on);
+    if (choice == MenuChoice::Music) controls_->toolBar->ShowMusic(on);
 }
 
 void frmLuckyCup::EnableCheckedHintEntries(bool byRequest, bool allways) {
-    menuBar_->EnableCheckedHintEntries(byRequest, allways);
+    controls_->menuBar->EnableCheckedHintEntries(byRequest, allways);
 }
 
-void frmLuckyCup::SetShowBoardCaption(std::string_view caption) { tray_.SetShowBoardCaption(Text(caption)); }
+void frmLuckyCup::SetShowBoardCaption(std::string_view caption) { controls_->tray.SetShowBoardCaption(Text(caption)); }
 
 void frmLuckyCup::CopyPicture(CounterPicture from, CounterPicture to) { Counter(to) = Counter(from); }
 
@@ -274,7 +257,7 @@ void frmLuckyCup::EraseDigit(int x) { Counter(CounterPicture::picScore).Erase(x)
 
 void frmLuckyCup::BlankScoreCounter(CounterPicture picture) {
     Counter(picture) = {};
-    if (picture == CounterPicture::picScore) score_->Refresh();
+    if (picture == CounterPicture::picScore) controls_->score->Refresh();
 }
 
 void frmLuckyCup::keyPressEvent(QKeyEvent* event) {

@@ -4,51 +4,49 @@
 
 #include "core/game.h"
 #include "kit/event_gate.h"
-#include "table/window/board.h"
-#include "table/window/counter_display.h"
-#include "table/window/dice_tray.h"
-#include "table/window/frame_lines.h"
-#include "table/window/menu_bar.h"
-#include "table/window/row_labels.h"
-#include "table/window/status_bar_widget.h"
-#include "table/window/table_area.h"
+#include "table/window/table_controls.h"
 
-// The main window. It shows what it is told and hands what the user does to the game, through the gate. It holds no
-// rule.
+// The main window. It shows what it is told, once it is loaded, and hands what the user does to the game, through the
+// gate. It holds no rule.
 class frmLuckyCup final : public QMainWindow, public TableView {
 public:
     frmLuckyCup(EventGate& gate, Art& art);
     ~frmLuckyCup() override;
 
-    // The look of menu bar, drop-downs and toolbar, which it outlives. Without one they look like any other.
-    void SetMenuStyle(QStyle& style);
+    // The look of menu bar, drop-downs and toolbar, which it outlives, from when the window is loaded. Without one they
+    // look like any other.
+    void SetMenuStyle(QStyle& style) { menuStyle_ = &style; }
 
     // Loads the window for the game that it shows from now on. Once, before it is shown.
     void Load(Game& game);
     void Leave();                      // for good, without a question; nothing when the player has left already
     void LetGo() { game_ = nullptr; }  // the game ends; nothing that happens to the window reaches it any more
 
-    void SetRollPicture(RollPicture kind) override { tray_.SetRollPicture(kind); }
-    void SetRollEnabled(bool on) override { tray_.SetRollEnabled(on); }
-    void SetRollVisible(bool on) override { tray_.SetRollVisible(on); }
-    void ShowDieFace(int i, int face) override { tray_.ShowFace(i, face); }
-    void ShowRollingFace(int i, int k) override { tray_.ShowRollingFace(i, k + 1); }
-    void ShowDieFree(int i) override { tray_.ShowFree(i); }
-    void ShowDieHeld(int i) override { tray_.ShowHeld(i); }
-    void HideDie(int i) override { tray_.Hide(i); }
-    void EnableDie(int i, bool on) override { tray_.EnableDie(i, on); }
-    void SetLamps(int n) override { tray_.SetLamps(n); }
+    void SetRollPicture(RollPicture kind) override { controls_->tray.SetRollPicture(kind); }
+    void SetRollEnabled(bool on) override { controls_->tray.SetRollEnabled(on); }
+    void SetRollVisible(bool on) override { controls_->tray.SetRollVisible(on); }
+    void ShowDieFace(int i, int face) override { controls_->tray.ShowFace(i, face); }
+    void ShowRollingFace(int i, int k) override { controls_->tray.ShowRollingFace(i, k + 1); }
+    void ShowDieFree(int i) override { controls_->tray.ShowFree(i); }
+    void ShowDieHeld(int i) override { controls_->tray.ShowHeld(i); }
+    void HideDie(int i) override { controls_->tray.Hide(i); }
+    void EnableDie(int i, bool on) override { controls_->tray.EnableDie(i, on); }
+    void SetLamps(int n) override { controls_->tray.SetLamps(n); }
 
-    void ShowBoxButton(ScoreColumn column, int row, bool on) override { board_.Button(column, row).setVisible(on); }
-    void EnableBoxButton(ScoreColumn column, int row, bool on) override { board_.Button(column, row).setEnabled(on); }
-    void SetBoxPicture(int row, bool normal) override { board_.SetBoxPicture(row, normal); }
+    void ShowBoxButton(ScoreColumn column, int row, bool on) override {
+        controls_->board.Button(column, row).setVisible(on);
+    }
+    void EnableBoxButton(ScoreColumn column, int row, bool on) override {
+        controls_->board.Button(column, row).setEnabled(on);
+    }
+    void SetBoxPicture(int row, bool normal) override { controls_->board.SetBoxPicture(row, normal); }
     void SetBoxText(ScoreColumn column, int row, const std::string& text) override;
     void SetTotalText(ScoreColumn column, TotalRow row, const std::string& text) override;
 
     void SetTipText(int row, const std::string& text) override;
     void ShowTipColumn(bool on) override;
-    void HighlightRowLabel(int row) override { labels_.Highlight(row, true); }
-    void ResetRowLabel(int row) override { labels_.Highlight(row, false); }
+    void HighlightRowLabel(int row) override { controls_->labels.Highlight(row, true); }
+    void ResetRowLabel(int row) override { controls_->labels.Highlight(row, false); }
 
     void SetFrameHeight(int columns) override;
     void LayOut(int columns, int lastDieIndex) override;
@@ -56,23 +54,27 @@ public:
     void SetWindowHeight(int twips) override;
     void MinimizeWindow() override { showMinimized(); }
     void SetPanelText(int k, std::string_view text) override;
-    void SetPanelLayout(int k, int width, bool visible) override { statusBar_->SetPanelLayout(k, width, visible); }
-    void SetStatusBarVisible(bool on) override { statusBar_->setVisible(on); }
+    void SetPanelLayout(int k, int width, bool visible) override {
+        controls_->statusBar->SetPanelLayout(k, width, visible);
+    }
+    void SetStatusBarVisible(bool on) override { controls_->statusBar->setVisible(on); }
 
     void SetUndoEnabled(bool on) override;
     void SetRedoEnabled(bool on) override;
-    void SetHintButtonEnabled(bool on) override { toolBar_->SetHintEnabled(on); }
+    void SetHintButtonEnabled(bool on) override { controls_->toolBar->SetHintEnabled(on); }
     void ShowChoice(MenuChoice choice, bool on) override;
     void EnableCheckedHintEntries(bool byRequest, bool allways) override;
-    void ShowNextPlayer(bool on) override { tray_.ShowNextPlayer(on); }
-    void ShowNextBoardButton(bool visible, bool enabled) override { tray_.ShowNextBoardButton(visible, enabled); }
+    void ShowNextPlayer(bool on) override { controls_->tray.ShowNextPlayer(on); }
+    void ShowNextBoardButton(bool visible, bool enabled) override {
+        controls_->tray.ShowNextBoardButton(visible, enabled);
+    }
     void SetShowBoardCaption(std::string_view caption) override;
 
     void CopyPicture(CounterPicture from, CounterPicture to) override;
     void DrawDigit(CounterPicture to, int digit, int x) override;
     void DrawMinus(CounterPicture to, int x) override;
     void EraseDigit(int x) override;
-    void RefreshCounter() override { score_->Refresh(); }
+    void RefreshCounter() override { controls_->score->Refresh(); }
     void BlankScoreCounter(CounterPicture picture) override;
 
 protected:
@@ -88,9 +90,9 @@ private:
     void ShowMark();
     void LeadReader(const TableState& table);
     void Hover(ScoreColumn column, int row, bool onButton);
+    TableControls::Events Events();
     Board::Events BoardEvents();
     DiceTray::Events TrayEvents();
-    CommandRunner Commands();
     bool Covered() const;  // by a modal window
     void AskToLeave();
     void PlaceOnScreen();
@@ -101,15 +103,8 @@ private:
     Game* game_ = nullptr;
     Art& art_;
     ByCounterPicture<GlyphColumns> counters_;
-    TableArea* table_;  // below the menu bar
-    FrameLines lines_;
-    RowLabels labels_;
-    Board board_;
-    DiceTray tray_;
-    CounterDisplay* score_;
-    ToolBar* toolBar_;
-    MenuBar* menuBar_;
-    StatusBarWidget* statusBar_;
+    QStyle* menuStyle_ = nullptr;
+    std::optional<TableControls> controls_;  // once loaded
     BoxMark mark_;
     std::optional<Box> shownMark_;
     ByDie<bool> toldHeld_{};
