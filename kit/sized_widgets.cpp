@@ -30,11 +30,20 @@ void FitToScreen(QWidget& widget) {
     SetSizeOf(widget, FittingSize(Size(), inside, widget.screen()->availableSize()));
 }
 
-void Keep(QWidget& widget) {
+void SetPlace(QWidget& widget, const QRect& twips) {
     const SizeWithin window(SizeIn(widget));
+    widget.setGeometry(Area(twips));
+}
+
+void Fix(QWidget& widget, QSize twips) {
+    const SizeWithin window(SizeIn(widget));
+    widget.setFixedSize(Pixels(twips.width()), Pixels(twips.height()));
+}
+
+void Keep(QWidget& widget) {
     const QVariant place = widget.property(placeKey), fixed = widget.property(fixedKey);
-    if (place.isValid()) widget.setGeometry(Area(place.toRect()));
-    if (fixed.isValid()) widget.setFixedSize(Pixels(fixed.toSize().width()), Pixels(fixed.toSize().height()));
+    if (place.isValid()) SetPlace(widget, place.toRect());
+    if (fixed.isValid()) Fix(widget, fixed.toSize());
 }
 
 void KeepLetters(QWidget& widget) {
@@ -53,14 +62,16 @@ void TellStyleChange(QWidget& widget) {
 }  // namespace
 
 void Put(QWidget& widget, const Place& place) {
-    widget.setProperty(placeKey, QRect(place.left, place.top, place.width, place.height));
-    Keep(widget);
+    const QRect twips(place.left, place.top, place.width, place.height);
+    widget.setProperty(placeKey, twips);
+    SetPlace(widget, twips);
 }
 
 void FixSize(QWidget& widget, int width, int height) {
-    widget.setProperty(fixedKey, QSize(width, height));
+    const QSize twips(width, height);
+    widget.setProperty(fixedKey, twips);
     FitToScreen(widget);
-    Keep(widget);
+    Fix(widget, twips);
 }
 
 void SetLetters(QWidget& widget, const QFont& font, int pixels) {

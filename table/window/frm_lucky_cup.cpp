@@ -62,8 +62,8 @@ frmLuckyCup::~frmLuckyCup() {
 
 void frmLuckyCup::Load(Game& game) {
     assert(!game_);
-    game_ = &game;
     controls_.emplace(*this, art_, Counter(CounterPicture::picScore), menuStyle_, Events());
+    game_ = &game;
     PlaceOnScreen();
     Run(Form_Load);
 }
