@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Start to first painted frame and resident memory of the game, with either of its first windows, each beside a Qt window
-of the same size and place with as many parts and nothing to do."""
+of the same size and place with as many parts as the table and nothing to do."""
 
 import pathlib
 import re

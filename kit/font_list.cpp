@@ -1,6 +1,7 @@
 #include "kit/font_list.h"
 
 #include <fontconfig/fontconfig.h>
+#include <unistd.h>
 
 #include <clocale>
 #include <system_error>
@@ -8,7 +9,10 @@
 std::future<void> ReadFontsAhead() {
     std::setlocale(LC_ALL, "");  // as the application will do, but not while the other thread reads it
     try {
-        return std::async(std::launch::async, [] { FcInit(); });
+        return std::async(std::launch::async, [] {
+            nice(10);  // this thread alone: what the display server does for the application meanwhile comes first
+            FcInit();
+        });
     } catch (const std::system_error&) {
         return {};
     }

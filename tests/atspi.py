@@ -8,6 +8,7 @@ screen readers can't be had."""
 import contextlib
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -178,10 +179,14 @@ def play(reader, columns=1, players=1, hold_enter=None):
 
 @contextlib.contextmanager
 def session_bus(folder):
-    """Its address. The bus of the screen readers, which it starts, lies in that folder too: where users have no runtime
-    folder all sessions would share one place, and the second would have no bus."""
+    """Its address; empty: there is none. The bus of the screen readers, which it starts, lies in that folder too: where
+    users have no runtime folder all sessions would share one place, and the second would have no bus. It must not tell
+    the display of the session at hand where it lies."""
+    environment = {**os.environ, "XDG_RUNTIME_DIR": folder}
+    for name in ("DISPLAY", "WAYLAND_DISPLAY"):
+        environment.pop(name, None)
     bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE,
-                           stderr=subprocess.DEVNULL, text=True, env={**os.environ, "XDG_RUNTIME_DIR": folder})
+                           stderr=subprocess.DEVNULL, text=True, env=environment)
     try:
         yield bus.stdout.readline().strip()
     finally:
@@ -195,13 +200,12 @@ def main():
     with contextlib.ExitStack() as stack:
         folder = stack.enter_context(tempfile.TemporaryDirectory(ignore_cleanup_errors=True))
         errors = stack.enter_context(tempfile.TemporaryFile())
-        try:
-            os.environ["DBUS_SESSION_BUS_ADDRESS"] = stack.enter_context(session_bus(folder))
-        except FileNotFoundError as missing:
-            print(missing)
+        bus = stack.enter_context(session_bus(folder)) if shutil.which("dbus-daemon") else ""
+        if not bus:
+            print("no session bus")
             sys.exit(SKIPPED)
-        screen = stack.enter_context(Screen(bus=os.environ["DBUS_SESSION_BUS_ADDRESS"]))
-        os.environ["DISPLAY"] = screen.display
+        screen = stack.enter_context(Screen(bus=bus))
+        os.environ.update(DISPLAY=screen.display, DBUS_SESSION_BUS_ADDRESS=bus)
         home = screen.new_home("".join(f"{name}={value}\n" for name, value in settings.items()))
         program = own_copy(sys.argv[1], folder + "/game")
         reader = Reader(lambda: screen.start(program, stderr=errors, home=home))

@@ -61,7 +61,7 @@ frmLuckyCup::~frmLuckyCup() {
 }
 
 void frmLuckyCup::Load(Game& game) {
-    assert(!game_);
+    assert(!controls_);
     controls_.emplace(*this, art_, Counter(CounterPicture::picScore), menuStyle_, Events());
     game_ = &game;
     PlaceOnScreen();

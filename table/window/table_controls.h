@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 
 #include "table/window/board.h"
 #include "table/window/counter_display.h"
@@ -22,8 +23,8 @@ struct TableControls {
         CommandRunner commands;
     };
 
-    // window: takes the menu bar and the area. scorePicture: what the counter shows, which outlives it. style: the look
-    // of menu bar, drop-downs and toolbar, which outlives them; null: they look like any other.
+    // window: takes the menu bar and the area. scorePicture: what the counter shows, there as long as it is painted.
+    // style: the look of menu bar, drop-downs and toolbar, which outlives them; null: they look like any other.
     TableControls(QMainWindow& window, Art& art, const GlyphColumns& scorePicture, QStyle* style, const Events& events);
 
     TableArea* area;  // below the menu bar
