@@ -32,13 +32,14 @@ std::vector<Art::Wanted> PicturesAhead(qreal devicePixelRatio) {
 }
 }  // namespace
 
-int Main(QApplication& app) {
+int Main(QApplication& app, const std::future<void>& fonts) {
     EndOnSignals(app);
     SetSize(SizeAtStart(StoredSize(), app.primaryScreen()->availableSize()));
     Art art;
     FileLock lock;
     const bool only = TakeOnlyInstance(lock);
     if (only) art.RenderAhead(PicturesAhead(app.devicePixelRatio()));  // before all that waits for the fonts
+    fonts.wait();
     ApplyLook();
     if (!only) {
         SetGameIcon(art);

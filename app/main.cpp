@@ -17,5 +17,5 @@ int main(int argc, char* argv[]) {
     PrepareLook();
     QApplication app(argc, argv);
     MakeControlsSpeak();
-    return Main(app);
+    return Main(app, fonts);
 }

@@ -1,7 +1,6 @@
 #include "kit/font_list.h"
 
 #include <fontconfig/fontconfig.h>
-#include <unistd.h>
 
 #include <clocale>
 #include <system_error>
@@ -9,10 +8,7 @@
 std::future<void> ReadFontsAhead() {
     std::setlocale(LC_ALL, "");  // as the application will do, but not while the other thread reads it
     try {
-        return std::async(std::launch::async, [] {
-            nice(10);  // this thread alone: what the display server does for the application meanwhile comes first
-            FcInit();
-        });
+        return std::async(std::launch::async, [] { FcInit(); });
     } catch (const std::system_error&) {
         return {};
     }
