@@ -179,9 +179,9 @@ def play(reader, columns=1, players=1, hold_enter=None):
 
 @contextlib.contextmanager
 def session_bus(folder):
-    """Its address; empty: there is none. The bus of the screen readers, which it starts, lies in that folder too: where
-    users have no runtime folder all sessions would share one place, and the second would have no bus. It must not tell
-    the display of the session at hand where it lies."""
+    """Its address; empty: there is none. The bus of the screen readers, which it starts, lies in that folder too: a user
+    without a runtime folder has one place for all of them, where a second one cannot lie. The desktop that the test was
+    started from must not hear of either."""
     environment = {**os.environ, "XDG_RUNTIME_DIR": folder}
     for name in ("DISPLAY", "WAYLAND_DISPLAY"):
         environment.pop(name, None)

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""smoke.py PROGRAM [SCORES]: starts the real program on an X display of its own, as a new user, who meets the welcome window and
-leaves it, then plays from it with its box checked, a whole game of Yahtzee by keyboard and on into the hall of fame; at
-the next start a picture stands before the table. Expects clean ends: status 0 and nothing on stderr. The program is
-played where it lies and keeps its scores in the folder SCORES; without one a copy of its folder is played."""
+"""smoke.py PROGRAM [SCORES]: starts the real program on an X display of its own, as a new user, who meets the welcome
+window and leaves it, then plays from it with its box checked, a whole game of Yahtzee by keyboard and on into the hall of
+fame; at the next start a picture stands before the table. Expects clean ends: status 0 and nothing on stderr. The program
+is played where it lies and keeps its scores in the folder SCORES; without one a copy of its folder is played."""
 
 import pathlib
 import struct
@@ -141,8 +141,11 @@ def meet_the_splash(start):
 
 def main():
     with tempfile.TemporaryFile() as errors, tempfile.TemporaryDirectory() as folder, Screen() as screen:
-        program = sys.argv[1] if len(sys.argv) == 3 else own_copy(sys.argv[1], folder + "/game")
-        scores = sys.argv[2] if len(sys.argv) == 3 else program.parent / "scores"
+        if len(sys.argv) == 3:
+            program, scores = sys.argv[1:]
+        else:
+            program = own_copy(sys.argv[1], folder + "/game")
+            scores = program.parent / "scores"
         home = screen.new_home()
         failure = None
         try:
