@@ -212,7 +212,7 @@ def main():
         failure = None
 
         def hold_enter():
-            window = wait_for("the table", lambda: screen.find_window("Lucky Cup 2.3"))
+            window = wait_for("the table", lambda: screen.find_window(TABLE))
             screen.xdotool("windowfocus", "--sync", window, "keydown", "Return", "sleep", "2", "keyup", "Return")
 
         try:
